@@ -1,0 +1,4 @@
+# Program and delivered files; the program finds them at ../share/tafelquell from its own folder.
+install(TARGETS tafelquell RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(FILES data/Tafelquell.ini data/Formulierungen.txt data/Beispiel.txt
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/tafelquell OPTIONAL)
