@@ -1,0 +1,27 @@
+# The house: two libraries. A folder names its sources with these two functions, so that the border between
+# what knows a widget and what does not stands in its CMakeLists.txt and is kept by the linker.
+function(tafelquell_kern_quellen)
+  list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE Quellen)
+  target_sources(tafelquell_kern PRIVATE ${Quellen})
+endfunction()
+
+function(tafelquell_fenster_quellen)
+  list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE Quellen)
+  target_sources(tafelquell_fenster PRIVATE ${Quellen})
+endfunction()
+
+# One test program for a folder of the house: all its tst_*.cpp and the common main.
+function(tafelquell_testprogramm Ordner Bibliothek)
+  file(GLOB Quellen CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  if(NOT Quellen)
+    return()
+  endif()
+  set(Name tafelquell_tests_${Ordner})
+  add_executable(${Name} ${Quellen})
+  target_link_libraries(${Name} PRIVATE ${Bibliothek} tafelquell_strenge Qt6::Test)
+  target_compile_definitions(${Name} PRIVATE TESTDATEN="${PROJECT_SOURCE_DIR}/tests/data"
+    LIEFERDATEN="${PROJECT_SOURCE_DIR}/data")
+  add_test(NAME ${Ordner} COMMAND ${Name})
+  set_tests_properties(${Ordner} PROPERTIES TIMEOUT 600
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=de_DE.UTF-8;UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1")
+endfunction()

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "controls/Textfeld.h"
+
+#include <functional>
+
+class Gitter;
+
+/// The floating edit box: lies over the current cell of its grid, of which it is a child, and follows it when
+/// the grid scrolls or changes size. What a commit does, which keys move and when a countdown starts is the
+/// view's.
+class EingabeFeld : public Textfeld {
+    Q_OBJECT
+
+  public:
+    explicit EingabeFeld(Gitter* Tabelle);
+
+    /// Lays the box over the current cell with this text and colour, shows it and gives it the focus. No
+    /// Geaendert.
+    void Zeigen(const QString& Text, QColor Schriftfarbe = {});
+    /// Hides the box without Verlassen: the typed text is dropped.
+    void Verbergen();
+    /// Sets the text without Geaendert; caret, selection and undo stay if it is the same.
+    void TextSetzen(const QString& Text);
+    /// Asked for every key before the box handles it; true: used up.
+    void setTastenregel(std::function<bool(QKeyEvent*)> Regel);
+
+  Q_SIGNALS:
+    void Geaendert(); ///< the text was changed by typing, pasting, cutting or from outside
+    void Doppelgeklickt();
+};

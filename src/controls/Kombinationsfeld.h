@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QComboBox>
+
+/// The combo boxes of the program. The editable ones differ from Qt's: typed text has index -1 until it is
+/// chosen or created; nothing is completed or inserted by itself. A choice by the user or by code is Klick;
+/// Return on a typed text, and leaving the box with one, is Anlegen. Leaving it empty selects the first
+/// entry. The wheel does nothing without the focus; Return never reaches a default button.
+class Kombinationsfeld : public QComboBox {
+    Q_OBJECT
+
+  public:
+    explicit Kombinationsfeld(QWidget* Eltern = nullptr);
+
+    void setSortiert(bool Sortiert); ///< entries are kept sorted by the locale's collation, case ignored
+    void Leeren();                   ///< no entries, no text, no Klick
+    /// Adds an entry with its hidden datum; returns its index. Never selects and never emits Klick.
+    int Hinzufuegen(const QString& Text, int Datum = 0);
+    int Datum(int Index) const; ///< 0 if there is none
+    int AktDatum() const;       ///< datum of the selected entry, 0 without selection
+    /// Selects; emits Klick if the index changes to an entry. -1: no selection, the text stays.
+    void setListIndex(int Index);
+    int ListIndex() const; ///< -1: typed text or nothing
+
+  Q_SIGNALS:
+    void Klick();                      ///< an entry was chosen (also the same again, by the user)
+    void Anlegen(const QString& Text); ///< a typed, not empty text is to become something new
+    void Betreten();                   ///< got the focus
+};

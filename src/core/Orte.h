@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+/// The program's directory: the folder of the executable if it holds "Tafelquell.ini" and can be written (a
+/// portable copy on a stick), else the per-user data folder, into which the delivered files are copied at the
+/// first start. Without a trailing separator. The answer holds for the run.
+QString Programmverzeichnis();
+
+/// Folder of the delivered files (../share/tafelquell beside the executable, or data/ of a build tree); empty
+/// if there is none.
+QString Lieferverzeichnis();
+
+/// $XDG_STATE_HOME or ~/.local/state, then "tafelquell"; created with mode 0700. Rescue copies live there.
+QString Zustandsverzeichnis();
+
+/// For tests: use these folders from now on; an empty text goes back to the real one.
+void ProgrammverzeichnisSetzen(const QString& Pfad);
+void ZustandsverzeichnisSetzen(const QString& Pfad);
