@@ -6,8 +6,7 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-int main(int argc, char **argv)
-{
+int main(int argc, char** argv) {
     QGuiApplication app(argc, argv);
     const QStringList args = QGuiApplication::arguments();
     if (args.size() != 4)
