@@ -3,11 +3,15 @@
 function(tafelquell_kern_quellen)
   list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE Quellen)
   target_sources(tafelquell_kern PRIVATE ${Quellen})
+  # A new form in the list: moc and uic must look again.
+  set_property(TARGET tafelquell_kern APPEND PROPERTY AUTOGEN_TARGET_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/CMakeLists.txt)
 endfunction()
 
 function(tafelquell_fenster_quellen)
   list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE Quellen)
   target_sources(tafelquell_fenster PRIVATE ${Quellen})
+  # A new form in the list: moc and uic must look again.
+  set_property(TARGET tafelquell_fenster APPEND PROPERTY AUTOGEN_TARGET_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/CMakeLists.txt)
 endfunction()
 
 # One test program for a folder of the house: all its tst_*.cpp and the common main.
