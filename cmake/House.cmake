@@ -3,15 +3,11 @@
 function(tafelquell_kern_quellen)
   list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE Quellen)
   target_sources(tafelquell_kern PRIVATE ${Quellen})
-  # A new form in the list: moc and uic must look again.
-  set_property(TARGET tafelquell_kern APPEND PROPERTY AUTOGEN_TARGET_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/CMakeLists.txt)
 endfunction()
 
 function(tafelquell_fenster_quellen)
   list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE Quellen)
   target_sources(tafelquell_fenster PRIVATE ${Quellen})
-  # A new form in the list: moc and uic must look again.
-  set_property(TARGET tafelquell_fenster APPEND PROPERTY AUTOGEN_TARGET_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/CMakeLists.txt)
 endfunction()
 
 # One test program for a folder of the house: all its tst_*.cpp and the common main.
@@ -28,4 +24,17 @@ function(tafelquell_testprogramm Ordner Bibliothek)
   add_test(NAME ${Ordner} COMMAND ${Name})
   set_tests_properties(${Ordner} PROPERTIES TIMEOUT 600
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=de_DE.UTF-8;UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1")
+endfunction()
+
+# A source new in a list: moc and uic must look again, which they do by themselves only when a file they know changes.
+function(tafelquell_formen_neu_lesen)
+  file(GLOB Listen ${CMAKE_CURRENT_SOURCE_DIR}/*/CMakeLists.txt)
+  foreach(Bibliothek tafelquell_kern tafelquell_fenster)
+    set(Stempel ${CMAKE_CURRENT_BINARY_DIR}/${Bibliothek}_autogen/timestamp)
+    foreach(Liste ${Listen})
+      if(${Liste} IS_NEWER_THAN ${Stempel})
+        file(REMOVE ${Stempel})
+      endif()
+    endforeach()
+  endforeach()
 endfunction()
