@@ -25,3 +25,16 @@ function(tafelquell_testprogramm Ordner Bibliothek)
   set_tests_properties(${Ordner} PROPERTIES TIMEOUT 600
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QTEST_DISABLE_STACK_DUMP=1;LC_ALL=de_DE.UTF-8;UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1")
 endfunction()
+
+# A source new in a list: moc and uic must look again, which they do by themselves only when a file they know changes.
+function(tafelquell_formen_neu_lesen)
+  file(GLOB Listen ${CMAKE_CURRENT_SOURCE_DIR}/*/CMakeLists.txt)
+  foreach(Bibliothek tafelquell_kern tafelquell_fenster)
+    set(Stempel ${CMAKE_CURRENT_BINARY_DIR}/${Bibliothek}_autogen/timestamp)
+    foreach(Liste ${Listen})
+      if(${Liste} IS_NEWER_THAN ${Stempel})
+        file(REMOVE ${Stempel})
+      endif()
+    endforeach()
+  endforeach()
+endfunction()
