@@ -28,3 +28,5 @@ bool Anwendung::notify(QObject* Empfaenger, QEvent* Ereignis) {
     }
     return true;
 }
+
+#include "moc_Anwendung.cpp"

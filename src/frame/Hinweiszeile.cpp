@@ -29,3 +29,5 @@ bool Hinweiszeile::event(QEvent* Ereignis) {
                        Abgeschnitten ? text().toHtmlEscaped() : QString(), this);
     return true;
 }
+
+#include "moc_Hinweiszeile.cpp"

@@ -15,3 +15,5 @@ void Reiterfeld::keyPressEvent(QKeyEvent* Ereignis) {
         setFocus();
     QTabWidget::keyPressEvent(Ereignis);
 }
+
+#include "moc_Reiterfeld.cpp"

@@ -77,3 +77,5 @@ void Sitzungsende::SignalAngekommen() {
     OhneFrageSichern();
     QCoreApplication::exit(0);
 }
+
+#include "moc_Sitzungsende.cpp"

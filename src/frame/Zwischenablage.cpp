@@ -151,3 +151,5 @@ bool Zwischenablagetasten::eventFilter(QObject* Ziel, QEvent* Ereignis) {
     }
     return QObject::eventFilter(Ziel, Ereignis);
 }
+
+#include "moc_Zwischenablage.cpp"

@@ -26,3 +26,5 @@ frmAbout::frmAbout(QWidget* Eltern)
 }
 
 frmAbout::~frmAbout() = default;
+
+#include "moc_frmAbout.cpp"

@@ -211,3 +211,5 @@ bool frmMain::event(QEvent* Ereignis) {
     }
     return QMainWindow::event(Ereignis);
 }
+
+#include "moc_frmMain.cpp"

@@ -23,3 +23,5 @@ void frmSplash::Zeigen() {
     // A window of X11 is painted only when the server has shown it.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
+
+#include "moc_frmSplash.cpp"
