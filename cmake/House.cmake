@@ -23,7 +23,7 @@ function(tafelquell_testprogramm Ordner Bibliothek)
     LIEFERDATEN="${PROJECT_SOURCE_DIR}/data")
   add_test(NAME ${Ordner} COMMAND ${Name})
   set_tests_properties(${Ordner} PROPERTIES TIMEOUT 600
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=de_DE.UTF-8;UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QTEST_DISABLE_STACK_DUMP=1;LC_ALL=de_DE.UTF-8;UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1")
 endfunction()
 
 # A source new in a list: moc and uic must look again, which they do by themselves only when a file they know changes.

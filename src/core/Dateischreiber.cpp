@@ -17,12 +17,13 @@ Dateischreiber::Dateischreiber(const QString& ZielPfad, const QByteArray& NeuerI
     , Inhalt(NeuerInhalt)
     , Name(QFile::encodeName(ZielPfad)) {}
 
-Dateischreiber::Dateischreiber(const QString& ZielPfad, const QByteArray& NeuerInhalt,
+Dateischreiber::Dateischreiber(const QByteArray& Zielname, const QByteArray& NeuerInhalt,
                                Rettungskopie Vorhandene)
-    : Dateischreiber(ZielPfad, NeuerInhalt) {
-    Rettung = std::move(Vorhandene);
-    Selbstgerettet = false;
-}
+    : Pfad(QFile::decodeName(Zielname))
+    , Inhalt(NeuerInhalt)
+    , Name(Zielname)
+    , Selbstgerettet(false)
+    , Rettung(std::move(Vorhandene)) {}
 
 std::optional<Dateifehler> Dateischreiber::Schreiben() {
     if (const int Fehler = Vorbereiten())

@@ -17,7 +17,7 @@ class Dateischreiber {
   public:
     Dateischreiber(const QString& Pfad, const QByteArray& Inhalt);
     /// A save whose rescue copy exists already, since the content comes from it.
-    Dateischreiber(const QString& Pfad, const QByteArray& Inhalt, Rettungskopie Vorhandene);
+    Dateischreiber(const QByteArray& Name, const QByteArray& Inhalt, Rettungskopie Vorhandene);
 
     std::optional<Dateifehler> Schreiben();
 

@@ -59,6 +59,10 @@ bool DateiExistiert(const QString& Pfad) {
 
 void Fehlermeldung(const QString& Meldung) {
     MeldungZeigen(Meldung);
+    Protokollieren(Meldung);
+}
+
+void Protokollieren(const QString& Meldung) {
     QFile Protokoll(Programmverzeichnis() + QStringLiteral("/Fehlermeldungen.txt"));
     // A path in the message may hold characters no Windows-1252 file can; they must not cost the whole entry.
     const QByteArray Block = InCodeseite(CodeseiteBereinigt(Protokollblock(Meldung)));

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -14,10 +15,17 @@ namespace {
 
 constexpr int LaengstesWort = 60;
 
-/// The window over which a box belongs.
+/// The window over which a box belongs; while none is active, the main window.
 QWidget* Besitzer() {
-    return QApplication::activeModalWidget() ? QApplication::activeModalWidget()
-                                             : QApplication::activeWindow();
+    if (QWidget* Dialog = QApplication::activeModalWidget())
+        return Dialog;
+    if (QWidget* Aktives = QApplication::activeWindow())
+        return Aktives;
+    const auto Fenster = QApplication::topLevelWidgets();
+    for (QWidget* Eines : Fenster)
+        if (Eines->isVisible() && qobject_cast<QMainWindow*>(Eines))
+            return Eines;
+    return nullptr;
 }
 
 QMessageBox::Icon Kastenbild(Symbol Bild) {

@@ -94,10 +94,11 @@ void frmMain::LeisteBauen() {
         const QString Name = QString::fromUtf8(Eintrag.Name);
         QAction* Aktion = tbToolBar->addAction(Sinnbild(Name.toLower()), QString::fromUtf8(Eintrag.Text));
         Aktion->setObjectName(Name);
-        auto* Befehl = findChild<QAction*>(QString::fromUtf8(Eintrag.Befehl));
-        Aktion->setEnabled(Befehl && Befehl->isEnabled());
-        if (Befehl)
-            connect(Aktion, &QAction::triggered, Befehl, &QAction::trigger);
+        const QString Befehl = QString::fromUtf8(Eintrag.Befehl);
+        auto* Vorbild = Befehl.isEmpty() ? nullptr : findChild<QAction*>(Befehl);
+        Aktion->setEnabled(Vorbild && Vorbild->isEnabled());
+        if (Vorbild)
+            connect(Aktion, &QAction::triggered, Vorbild, &QAction::trigger);
     }
     tbToolBar->addSeparator();
     cbPassbild = new QCheckBox(QStringLiteral("Passbilder anzeigen"));
