@@ -22,3 +22,6 @@ bool DateiExistiert(const QString& Pfad);
 /// Shows the message in a box with OK, then appends it with date and time to "Fehlermeldungen.txt" in the
 /// program's directory. A log that cannot be written throws a Laufzeitfehler after the message was shown.
 void Fehlermeldung(const QString& Meldung);
+
+/// The log alone, without the box.
+void Protokollieren(const QString& Meldung);

@@ -7,6 +7,11 @@
 /// first start. Without a trailing separator. The answer holds for the run.
 QString Programmverzeichnis();
 
+/// The rule behind it, over plain folders: the one of the executable, the one of the user's data and the one
+/// of the delivered files ("" if there is none). An existing file is never replaced.
+QString ProgrammverzeichnisAus(const QString& Programmordner, const QString& Datenordner,
+                               const QString& Lieferordner);
+
 /// Folder of the delivered files (../share/tafelquell beside the executable, or data/ of a build tree); empty
 /// if there is none.
 QString Lieferverzeichnis();

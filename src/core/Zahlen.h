@@ -9,7 +9,7 @@
 
 /// The locale for numbers and dates; the only place that asks the system for it.
 const QLocale& SystemSprache();
-/// For tests: use this locale from now on.
+/// For tests: use this locale from now on; C becomes German here too.
 void SystemSpracheSetzen(const QLocale& Sprache);
 
 /// A text as a number under the locale: optional sign, digits, the locale's decimal sign, exponent; blanks
@@ -22,7 +22,8 @@ QString ZahlText(double Zahl);
 QString ZahlText(float Zahl); ///< at most 7 digits
 QString ZahlText(int Zahl);
 
-/// Whole number nearest to Zahl, ties to the even neighbour: 2.5 gives 2, 3.5 gives 4.
+/// Whole number nearest to Zahl, ties to the even neighbour: 2.5 gives 2, 3.5 gives 4. What does not fit
+/// throws a Laufzeitfehler.
 int Runden(double Zahl);
 
 /// Format strings "0", "0.0" and "0.00": rounds half away from zero on the decimal digits shown, with the

@@ -8,6 +8,7 @@
 #include "core/Zahlen.h"
 
 #include <QFile>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QtTest>
 
@@ -87,7 +88,9 @@ void ZustandVorgeben() {
 void Testwelt::Herstellen() {
     Temp = std::make_unique<QTemporaryDir>();
     QVERIFY(Temp->isValid());
-    qputenv("XDG_CONFIG_HOME", Temp->filePath(QStringLiteral("config")).toLocal8Bit());
+    // QSettings asks for XDG_CONFIG_HOME only once in a process, so the path is set by its own means.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       Temp->filePath(QStringLiteral("config")));
     QDir(Temp->path()).mkpath(QStringLiteral("programm"));
     ProgrammverzeichnisSetzen(Temp->filePath(QStringLiteral("programm")));
     ZustandsverzeichnisSetzen(Temp->filePath(QStringLiteral("zustand")));

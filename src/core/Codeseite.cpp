@@ -1,0 +1,100 @@
+#include "core/Codeseite.h"
+
+#include "core/Laufzeitfehler.h"
+
+#include <QCoreApplication>
+
+#include <array>
+
+namespace {
+
+/// Bytes 0x80 to 0x9F; all others are their own number.
+constexpr std::array<char16_t, 32> Besondere{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                             0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                             0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                             0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+constexpr std::array<char16_t, 256> Zeichentafel = [] {
+    std::array<char16_t, 256> Tafel{};
+    for (std::size_t Byte = 0; Byte < 256; ++Byte)
+        Tafel[Byte] = Byte >= 0x80 && Byte < 0xA0 ? Besondere[Byte - 0x80] : static_cast<char16_t>(Byte);
+    return Tafel;
+}();
+
+/// The byte of each UTF-16 unit; 0 where there is none. Text of a grade book touches only its first lines,
+/// so the table costs no more cache than a small one and needs no branch.
+constexpr std::array<unsigned char, 65536> Bytetafel = [] {
+    std::array<unsigned char, 65536> Tafel{};
+    for (std::size_t Byte = 0; Byte < 256; ++Byte)
+        Tafel[Zeichentafel[Byte]] = static_cast<unsigned char>(Byte);
+    return Tafel;
+}();
+
+constexpr bool HatByte(char16_t Zeichen) {
+    return Bytetafel[Zeichen] != 0 || Zeichen == 0;
+}
+
+[[noreturn]] void ZeichenFehlt(const QString& Text) {
+    for (const QChar Zeichen : Text)
+        if (!HatByte(Zeichen.unicode()))
+            throw Laufzeitfehler(
+                QCoreApplication::translate("Codeseite",
+                                            "Das Zeichen U+%1 lässt sich nicht in der Datei darstellen.")
+                    .arg(QString::number(Zeichen.unicode(), 16).toUpper().rightJustified(4, u'0')));
+    Q_UNREACHABLE();
+}
+
+} // namespace
+
+QString AusCodeseite(const char* Bytes, qsizetype Anzahl) {
+    QString Text(Anzahl, Qt::Uninitialized);
+    auto* Ziel = reinterpret_cast<char16_t*>(Text.data());
+    for (qsizetype i = 0; i < Anzahl; ++i)
+        Ziel[i] = Zeichentafel[static_cast<unsigned char>(Bytes[i])];
+    return Text;
+}
+
+QString AusCodeseite(const QByteArray& Bytes) {
+    return AusCodeseite(Bytes.constData(), Bytes.size());
+}
+
+void InCodeseite(const QString& Text, QByteArray& Ziel) {
+    const qsizetype Vorher = Ziel.size();
+    const qsizetype Anzahl = Text.size();
+    const auto* Quelle = reinterpret_cast<const char16_t*>(Text.constData());
+    Ziel.resize(Vorher + Anzahl);
+    auto* Bytes = reinterpret_cast<unsigned char*>(Ziel.data() + Vorher);
+    bool Fehlt = false;
+    for (qsizetype i = 0; i < Anzahl; ++i) {
+        Bytes[i] = Bytetafel[Quelle[i]];
+        Fehlt |= Bytes[i] == 0 && Quelle[i] != 0;
+    }
+    if (Fehlt) {
+        Ziel.resize(Vorher);
+        ZeichenFehlt(Text);
+    }
+}
+
+QByteArray InCodeseite(const QString& Text) {
+    QByteArray Bytes;
+    InCodeseite(Text, Bytes);
+    return Bytes;
+}
+
+bool InCodeseiteVorhanden(QChar Zeichen) {
+    return HatByte(Zeichen.unicode());
+}
+
+QString CodeseiteBereinigt(const QString& Text, int* Entfallen) {
+    QString Ergebnis;
+    int Anzahl = 0;
+    for (const QChar Zeichen : Text.normalized(QString::NormalizationForm_C)) {
+        if (InCodeseiteVorhanden(Zeichen))
+            Ergebnis += Zeichen;
+        else if (!Zeichen.isLowSurrogate()) // the second half of a character already counted
+            ++Anzahl;
+    }
+    if (Entfallen)
+        *Entfallen = Anzahl;
+    return Ergebnis;
+}

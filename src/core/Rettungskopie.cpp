@@ -1,0 +1,190 @@
+#include "core/Rettungskopie.h"
+
+#include "core/Orte.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <memory>
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+namespace {
+
+const QByteArray Fertig = QByteArrayLiteral("rescue");
+const QByteArray Unfertig = QByteArrayLiteral("tmp");
+
+QByteArray PfadVon(qint64 Nummer, const QByteArray& Endung) {
+    return Rettungsordner() + "/r." + QByteArray::number(Nummer) + '.' + Endung;
+}
+
+/// The number of a name r.N.anything; 0 for other names.
+qint64 NummerVon(const QByteArray& Name) {
+    constexpr qint64 Groesste = 1'000'000'000'000;
+    const QList<QByteArray> Teile = Name.split('.');
+    const qint64 Nummer = Teile.size() == 3 && Teile[0] == "r" ? Teile[1].toLongLong() : 0;
+    return Nummer > 0 && Nummer < Groesste ? Nummer : 0;
+}
+
+bool IstRettung(const QByteArray& Name) {
+    return NummerVon(Name) > 0 && (Name.endsWith('.' + Fertig) || Name.endsWith('.' + Unfertig));
+}
+
+int NamenLesen(QList<QByteArray>* Namen) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> Ordner(Aufrufe().Opendir(Rettungsordner().constData()),
+                                                     Aufrufe().Closedir);
+    if (!Ordner)
+        return errno == ENOENT ? 0 : errno;
+    for (;;) {
+        errno = 0;
+        const dirent* const Eintrag = Aufrufe().Readdir(Ordner.get());
+        if (!Eintrag)
+            return errno;
+        Namen->append(QByteArray(Eintrag->d_name));
+    }
+}
+
+/// Makes Ordner with all that is missing above it, for this user alone.
+int OrdnerAnlegen(const QByteArray& Ordner) {
+    const auto Anlegen = [&] {
+        return Beharrlich([&] { return Aufrufe().Mkdir(Ordner.constData(), 0700); }) == -1 ? errno : 0;
+    };
+    int Fehler = Anlegen();
+    if (Fehler == ENOENT && OrdnerVon(Ordner) != Ordner) {
+        Fehler = OrdnerAnlegen(OrdnerVon(Ordner));
+        if (Fehler == 0)
+            Fehler = Anlegen();
+    }
+    return Fehler == EEXIST ? 0 : Fehler;
+}
+
+/// The folder is there and closed to others.
+int OrdnerBereiten() {
+    Deskriptor Ordner;
+    int Fehler = DateiOeffnen(Rettungsordner(), O_RDONLY | O_DIRECTORY, &Ordner);
+    if (Fehler == ENOENT) {
+        Fehler = OrdnerAnlegen(Rettungsordner());
+        if (Fehler == 0)
+            Fehler = DateiOeffnen(Rettungsordner(), O_RDONLY | O_DIRECTORY, &Ordner);
+    }
+    struct stat Stand {};
+    if (Fehler == 0)
+        Fehler = DateiStand(Ordner, &Stand);
+    if (Fehler == 0 && (Stand.st_mode & 077U) != 0)
+        Aufrufe().Fchmod(Ordner.Nummer(), 0700); // the copies themselves are closed to others in any case
+    return Fehler;
+}
+
+/// A lock is a courtesy to a second running program: where the file system knows none, none is taken.
+int Sperren(const Deskriptor& Datei) {
+    const int Ergebnis = Beharrlich([&] { return Aufrufe().Flock(Datei.Nummer(), LOCK_EX | LOCK_NB); });
+    return Ergebnis == -1 && errno == EWOULDBLOCK ? EWOULDBLOCK : 0;
+}
+
+int HoechsteNummer(qint64* Hoechste) {
+    QList<QByteArray> Namen;
+    const int Fehler = NamenLesen(&Namen);
+    for (const QByteArray& Name : Namen)
+        *Hoechste = std::max(*Hoechste, NummerVon(Name));
+    return Fehler;
+}
+
+/// Creates r.N.tmp under a number that nothing else bears. Whoever has made r.N.tmp alone may make
+/// r.N.rescue, so two programs never meet at one number.
+int UnfertigeAnlegen(Rettungskopie* Neue, qint64* Nummer) {
+    *Nummer = 0;
+    int Fehler = HoechsteNummer(Nummer);
+    constexpr int Versuche = 100;
+    for (int Versuch = 1; Fehler == 0 && Versuch <= Versuche; ++Versuch) {
+        ++*Nummer;
+        Neue->Pfad = PfadVon(*Nummer, Unfertig);
+        Fehler = DateiOeffnen(Neue->Pfad, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, &Neue->Datei, 0600);
+        struct stat Stand {};
+        if (Fehler == 0 && Aufrufe().Stat(PfadVon(*Nummer, Fertig).constData(), &Stand) == -1)
+            return errno == ENOENT ? Sperren(Neue->Datei) : errno;
+        if (Fehler == 0)
+            RettungEntfernen(Neue);
+        if (Fehler == EEXIST)
+            Fehler = 0;
+    }
+    return Fehler != 0 ? Fehler : EEXIST;
+}
+
+int Fuellen(Rettungskopie* Neue, qint64 Nummer, const Rettungskopf& Kopf, const QByteArray& Inhalt) {
+    const QByteArray Kopfbytes = RettungskopfBytes(Kopf);
+    int Fehler = GanzSchreiben(Neue->Datei, Kopfbytes);
+    if (Fehler == 0)
+        Fehler = GanzSchreiben(Neue->Datei, Inhalt, Kopfbytes.size());
+    if (Fehler == 0)
+        Fehler = Synchronisieren(Neue->Datei);
+    const QByteArray Endgueltig = PfadVon(Nummer, Fertig);
+    if (Fehler == 0)
+        Fehler = DateiUmbenennen(Neue->Pfad, Endgueltig);
+    if (Fehler != 0)
+        return Fehler;
+    Neue->Pfad = Endgueltig;
+    return OrdnerSynchronisieren(Rettungsordner());
+}
+
+} // namespace
+
+QByteArray Rettungsordner() {
+    return QFile::encodeName(Zustandsverzeichnis());
+}
+
+int RettungAnlegen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungskopie* Neue) {
+    Neue->Ordner = Rettungsordner();
+    if (const int Fehler = OrdnerBereiten())
+        return Fehler;
+    qint64 Nummer = 0;
+    int Fehler = UnfertigeAnlegen(Neue, &Nummer);
+    if (Fehler == 0)
+        Fehler = Fuellen(Neue, Nummer, Kopf, Inhalt);
+    if (Fehler != 0 && Neue->Datei.Offen())
+        RettungEntfernen(Neue);
+    return Fehler;
+}
+
+int RettungOeffnen(const QByteArray& Pfad, Rettungskopie* Gefundene) {
+    Gefundene->Pfad = Pfad;
+    Gefundene->Ordner = OrdnerVon(Pfad);
+    // Non-blocking, lest a pipe of that name stop the program.
+    if (const int Fehler = DateiOeffnen(Pfad, O_RDONLY | O_NOFOLLOW | O_NONBLOCK, &Gefundene->Datei))
+        return Fehler;
+    struct stat Stand {};
+    if (const int Fehler = DateiStand(Gefundene->Datei, &Stand))
+        return Fehler;
+    return S_ISREG(Stand.st_mode) ? Sperren(Gefundene->Datei) : EINVAL;
+}
+
+int RettungEntfernen(Rettungskopie* Erledigte) {
+    // The lock is held until the name is gone.
+    const int Fehler = DateiLoeschen(Erledigte->Pfad);
+    Erledigte->Datei.Schliessen();
+    OrdnerSynchronisieren(Erledigte->Ordner);
+    return Fehler;
+}
+
+int RettungBeiseiteLegen(Rettungskopie* Eine, const QByteArray& Endung, QByteArray* Neuer) {
+    const QByteArray Name = Eine->Pfad.mid(Eine->Pfad.lastIndexOf('/') + 1);
+    *Neuer = PfadVon(NummerVon(Name), Endung);
+    struct stat Stand {};
+    if (Aufrufe().Stat(Neuer->constData(), &Stand) == 0)
+        return EEXIST;
+    const int Fehler = DateiUmbenennen(Eine->Pfad, *Neuer);
+    Eine->Datei.Schliessen();
+    OrdnerSynchronisieren(Eine->Ordner);
+    return Fehler;
+}
+
+int RettungenAuflisten(QList<QByteArray>* Pfade) {
+    QList<QByteArray> Namen;
+    const int Fehler = NamenLesen(&Namen);
+    Namen.removeIf([](const QByteArray& Name) { return !IstRettung(Name); });
+    std::sort(Namen.begin(), Namen.end(),
+              [](const QByteArray& A, const QByteArray& B) { return NummerVon(A) > NummerVon(B); });
+    for (const QByteArray& Name : Namen)
+        Pfade->append(Rettungsordner() + '/' + Name);
+    return Fehler;
+}
