@@ -31,7 +31,7 @@ Dateiinhalt Holen(const QString& Pfad) {
     QByteArray Anfang;
     if (auto Alles = DateiLesen(Pfad, &Fehler, &Anfang))
         return {std::move(Alles), true};
-    if (Fehler.Grund == Dateifehler::Art::EinAusgabe)
+    if (Fehler.Geoeffnet)
         return {std::move(Anfang), false};
     return {};
 }

@@ -21,7 +21,7 @@ class Kopfschreiber {
     template <class Reihe>
     void Texte(QStringView Name, const Reihe& /*Werte*/, int Von, int Bis) {
         for (int i = Von; i <= Bis; ++i)
-            Z.Feld(Name + QString::number(i));
+            Z.Feld(Name.toString() + QString::number(i));
     }
     template <class Reihe>
     void Freie(const Reihe& /*Werte*/, int Von, int Bis) {
@@ -112,8 +112,8 @@ void BeurteilungenSchreiben(Zeilenschreiber& Z) {
         for (int Slot = 0; Slot < Einer.Beurteilung.size(); ++Slot) {
             if (Einer.Beurteilung[Slot].isEmpty())
                 continue;
-            Z.Zeile(Beurteilungsmarke(Einer.ID, Slot));
-            Z.Zeile(Einer.Beurteilung[Slot]);
+            Z.Textzeile(Beurteilungsmarke(Einer.ID, Slot));
+            Z.Textzeile(Einer.Beurteilung[Slot]);
         }
     }
 }

@@ -2,7 +2,7 @@
 
 #include "core/Reihe.h"
 
-#include <QtTypes>
+#include <QtGlobal>
 
 #include <string_view>
 

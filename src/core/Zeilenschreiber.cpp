@@ -28,7 +28,7 @@ void Zeilenschreiber::Zeile(std::string_view Inhalt) {
     ZeileEnden();
 }
 
-void Zeilenschreiber::Zeile(const QString& Inhalt) {
+void Zeilenschreiber::Textzeile(const QString& Inhalt) {
     InCodeseite(Inhalt, Geschrieben);
     ZeileEnden();
 }

@@ -16,7 +16,7 @@ class Zeilenschreiber {
 
     /// A whole line; the bytes are those of the file.
     void Zeile(std::string_view Inhalt);
-    void Zeile(const QString& Inhalt);
+    void Textzeile(const QString& Inhalt);
 
     const QByteArray& Bytes() const { return Geschrieben; }
 
