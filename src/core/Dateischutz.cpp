@@ -17,7 +17,8 @@ Dateifehler Lesefehler(const QString& Pfad, int Nummer, const QString& Schritt) 
         Nummer,
         Schritt,
         QStringLiteral("Die Datei \"%1\" konnte nicht gelesen werden: %2.").arg(Pfad, FehlerUrsache(Nummer)),
-        {}};
+        {},
+        false};
 }
 
 /// Opens for reading what is a file: a folder or a device would give errors later, or no end.
@@ -51,6 +52,7 @@ std::optional<QByteArray> DateiLesen(const QString& Pfad, Dateifehler* Fehler, Q
     QByteArray Inhalt;
     if (const int Nummer = GanzLesen(Datei, &Inhalt)) {
         *Fehler = Lesefehler(Pfad, Nummer, QStringLiteral("Lesen"));
+        Fehler->Geoeffnet = true;
         if (Gelesen)
             *Gelesen = Inhalt;
         return {};

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "core/Dateischutz.h"
+#include "core/Datenbankschreiber.h"
+#include "core/Laufzeitfehler.h"
+
 #include <QString>
 
 // The grade book file, formats 3.0 and 2.0: Windows-1252, CR LF, tab separated, sections in a fixed order.
@@ -10,15 +14,24 @@
 /// they are).
 bool LadeDatenbank(const QString& Pfad);
 
-/// Loads only the students of another grade book into FremdSchueler.
+/// Loads only the students of another grade book into FremdSchueler. True on success; on failure the message
+/// has been shown and FremdSchueler is empty, or as it was if the first line was refused.
 bool LadeFremdSchueler(const QString& Pfad);
 
+/// A file could not be written: Fehler tells why and where the rescue copy lies, if there is one.
+class Schreibfehler : public Laufzeitfehler {
+  public:
+    explicit Schreibfehler(Dateifehler Grund)
+        : Laufzeitfehler(Grund.Text)
+        , Fehler(std::move(Grund)) {}
+
+    Dateifehler Fehler;
+};
+
 /// Writes Datenbank to the file by the procedure that never loses one, stores the path as AutoDatei, clears
-/// DatenGeaendert and sets the title. A failure throws a Laufzeitfehler with a German text; flag and settings
+/// DatenGeaendert and sets the title. A failure throws a Schreibfehler, or another Laufzeitfehler when
+/// nothing was tried (a character without a byte, a file that was never read whole); flag, settings and title
 /// are then as before.
 void SpeichernDatenbank3(const QString& Pfad);
 /// The same in the older format without assessments.
 void SpeichernDatenbank2(const QString& Pfad);
-
-/// The bytes of the file. Version is '3' or '2'.
-QByteArray DatenbankBytes(char Version = '3');

@@ -91,8 +91,7 @@ QString DatumKurz(const QDate& Datum) {
 }
 
 QString ZeitKurz(const QTime& Zeit) {
-    // Some locales put a no-break blank of its own kind before "AM"; no file could hold it.
-    return SystemSprache().toString(Zeit, QLocale::ShortFormat).replace(QChar(0x202F), u' ');
+    return SystemSprache().toString(Zeit, QLocale::ShortFormat);
 }
 
 QString SchuljahrAb(int Jahr) {

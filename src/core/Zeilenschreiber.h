@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <string_view>
+
+/// Builds the bytes of a tab separated file: Windows-1252, lines ended by CR LF. A character that the code
+/// page lacks throws a Laufzeitfehler.
+class Zeilenschreiber {
+  public:
+    /// Appends a field to the line, behind a tab unless it is the first.
+    void Feld(const QString& Text);
+    void Feld(qint32 Zahl);
+    void ZeileEnden();
+
+    /// A whole line; the bytes are those of the file.
+    void Zeile(std::string_view Inhalt);
+    void Textzeile(const QString& Inhalt);
+
+    const QByteArray& Bytes() const { return Geschrieben; }
+
+  private:
+    void Trennen();
+
+    QByteArray Geschrieben;
+    bool ZeileLeer = true;
+};

@@ -1,0 +1,53 @@
+#include "frame/Ansichten.h"
+
+#include "controls/Ansicht.h"
+#include "core/Reihe.h"
+
+#include <QString>
+
+namespace {
+
+/// A panel without controls.
+class LeereAnsicht : public Ansicht {
+  public:
+    void Fuellen() override {}
+};
+
+template <class Art>
+Ansicht* Neue() {
+    return new Art;
+}
+
+struct Ansichtseintrag {
+    const char* Titel = "";
+    Ansicht* (*Erzeugen)() = nullptr;
+    bool Exportiert = false;
+};
+
+constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
+    {"Schüler- und Fächerliste", Neue<LeereAnsicht>, true},
+    {"Probenauswertung", Neue<LeereAnsicht>, false},
+    {"Notenliste eines Faches", Neue<LeereAnsicht>, true},
+    {"Notenliste eines Schülers", Neue<LeereAnsicht>, false},
+    {"Beurteilungen", Neue<LeereAnsicht>, true},
+};
+
+const Ansichtseintrag& Eintrag(int Nummer) {
+    if (Nummer < 0 || Nummer >= AnzahlAnsichten)
+        IndexFehler(Nummer, AnzahlAnsichten);
+    return Ansichten[Nummer];
+}
+
+} // namespace
+
+QString AnsichtTitel(int Nummer) {
+    return QString::fromUtf8(Eintrag(Nummer).Titel);
+}
+
+Ansicht* AnsichtErzeugen(int Nummer) {
+    return Eintrag(Nummer).Erzeugen();
+}
+
+bool AnsichtExportiert(int Nummer) {
+    return Eintrag(Nummer).Exportiert;
+}

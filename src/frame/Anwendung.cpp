@@ -1,0 +1,32 @@
+#include "frame/Anwendung.h"
+
+#include "core/Zahlen.h"
+#include "frame/Fehlerschutz.h"
+#include "frame/Sinnbilder.h"
+
+#include <QTranslator>
+
+Anwendung::Anwendung(int& Anzahl, char** Argumente)
+    : QApplication(Anzahl, Argumente) {
+    setApplicationName(QStringLiteral("Tafelquell"));
+    setApplicationVersion(QStringLiteral(TAFELQUELL_VERSION));
+    setDesktopFileName(QStringLiteral("de.tafelquell.Tafelquell"));
+    setWindowIcon(Sinnbild(QStringLiteral("tafelquell")));
+    QLocale::setDefault(SystemSprache());
+
+    auto* Deutsch = new QTranslator(this);
+    if (Deutsch->load(QStringLiteral(":/uebersetzung/qtbase_de.qm")))
+        installTranslator(Deutsch);
+}
+
+bool Anwendung::notify(QObject* Empfaenger, QEvent* Ereignis) {
+    try {
+        return QApplication::notify(Empfaenger, Ereignis);
+    } catch (const std::exception& Fehler) {
+        // The event is lost, nothing else: exceptions must not pass through the event loop.
+        FehlerBerichten(Fehler);
+    }
+    return true;
+}
+
+#include "moc_Anwendung.cpp"

@@ -1,0 +1,5 @@
+#include "frame/Programmname.h"
+
+QString VersionsText() {
+    return QStringLiteral("Version " TAFELQUELL_VERSION);
+}

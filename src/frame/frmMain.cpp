@@ -1,0 +1,215 @@
+#include "frame/frmMain.h"
+
+#include "controls/Ansicht.h"
+#include "controls/Kombinationsfeld.h"
+#include "core/Datenbankdatei.h"
+#include "core/Definitionen.h"
+#include "core/Dokument.h"
+#include "core/Eingabezaehler.h"
+#include "core/Einstellungen.h"
+#include "core/Parameterdatei.h"
+#include "core/Zahlen.h"
+#include "frame/Ansichten.h"
+#include "frame/Fehlerschutz.h"
+#include "frame/Fensterlage.h"
+#include "frame/Hinweiszeile.h"
+#include "frame/Menue.h"
+#include "frame/frmAbout.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QFocusEvent>
+#include <QInputMethod>
+#include <QMenu>
+#include <QMimeData>
+#include <QPointer>
+#include <QSignalBlocker>
+#include <QStatusTipEvent>
+#include <QTabWidget>
+#include <QTimer>
+
+frmMain::frmMain() {
+    setObjectName(QStringLiteral("frmMain"));
+    setMinimumSize(KleinstesFenster);
+    setAcceptDrops(true);
+    ReiterBauen();
+    MenueBauen();
+    LeisteBauen();
+    StatuszeileBauen();
+    timTimer = new QTimer(this);
+    timTimer->setObjectName(QStringLiteral("timTimer"));
+    timTimer->setInterval(500);
+    connect(timTimer, &QTimer::timeout, this, &frmMain::Tick);
+    OberflaecheSetzen(this);
+}
+
+frmMain::~frmMain() {
+    OberflaecheSetzen(nullptr);
+}
+
+void frmMain::Laden() {
+    FormularBereit = false;
+    setGeometry(FensterlageLesen());
+    Datenbank.AnzSchueler = Datenbank.AnzKlassen = Datenbank.AnzFaecher = 0;
+    Datenbank.AnzNoten = Datenbank.AnzZSchueler = 0;
+    DatenGeaendert = FormulierungenGeaendert = false;
+    LadeParameter();
+    tabAnsicht->setCurrentIndex(Reiter::P);
+    Geschuetzt([this] { LetzteDateiLaden(); });
+    cbPassbild->setChecked(EinstellungLesen(QStringLiteral("Passbild"), QStringLiteral("0")) ==
+                           QStringLiteral("1"));
+    FormularBereit = true;
+    timTimer->start();
+}
+
+void frmMain::LetzteDateiLaden() {
+    const QString Pfad = EinstellungLesen(QStringLiteral("AutoDatei"), Unbenannt);
+    const bool Automatisch =
+        WahrheitLesen(EinstellungLesen(QStringLiteral("AutoLaden"), QStringLiteral("True")));
+    if (Automatisch && Pfad != Unbenannt) {
+        if (!LadeDatenbank(Pfad))
+            DatenbankWiederherstellen(Pfad);
+    } else {
+        NeueDatenbank();
+    }
+    AnsichtAktualisieren();
+}
+
+bool frmMain::Sichtbar() const {
+    return isVisible();
+}
+
+void frmMain::FokusNehmen() {
+    QGuiApplication::inputMethod()->commit();
+    const QPointer<QWidget> Vorher = focusWidget();
+    const bool Erhaelt = Vorher && Vorher->hasFocus();
+    tabAnsicht->setFocus(Qt::OtherFocusReason);
+    if (!Vorher || Erhaelt || Vorher == focusWidget())
+        return;
+    // In a window that is not the active one Qt moves the focus without telling: the box must still commit.
+    QFocusEvent Abschied(QEvent::FocusOut, Qt::OtherFocusReason);
+    QCoreApplication::sendEvent(Vorher, &Abschied);
+}
+
+void frmMain::TitelSetzen(const QString& Titel) {
+    setWindowTitle(Titel);
+}
+
+void frmMain::JahrgangWaehlen() {
+    const QSignalBlocker Still(cbJahrgang);
+    cbJahrgang->setListIndex(cbJahrgang->findText(Datenbank.AktJahr, Qt::MatchFixedString));
+}
+
+void frmMain::JahrgangGewechselt() {
+    if (isVisible())
+        FokusNehmen();
+    Datenbank.AktJahr = cbJahrgang->currentText();
+    AktSchuelerID = AktFachID = AktProbe = 0;
+    AktKlasse.clear();
+    Geschuetzt([this] { AnsichtAktualisieren(); });
+}
+
+void frmMain::AnsichtAktualisieren() {
+    const int Nummer = tabAnsicht->currentIndex();
+    findChild<QMenu*>(QStringLiteral("mnuFormulierungen"))->menuAction()->setVisible(Nummer == Reiter::B);
+    EintragErlauben(QStringLiteral("mnuFileExport"), AnsichtExportiert(Nummer));
+    EintragErlauben(QStringLiteral("mnuFileImport"), false);
+    picAnsicht.at(Nummer)->Fuellen();
+    Hinweis({});
+}
+
+void frmMain::EintragErlauben(const QString& Name, bool Erlaubt) {
+    for (const Menueintrag& Eintrag : Menueeintraege())
+        if (Name == QLatin1String(Eintrag.Name))
+            findChild<QAction*>(Name)->setEnabled(Erlaubt && Eintrag.Ablauf);
+}
+
+void frmMain::Ausfuehren(const Menueintrag& Eintrag) {
+    if (Eintrag.Zuvor == Fokus::Nehmen)
+        FokusNehmen();
+    Geschuetzt([this, &Eintrag] { Eintrag.Ablauf(*this); });
+}
+
+void frmMain::Beenden() {
+    // Further prompts of the end of the program come here; each is shown, whatever the answers before.
+    if (FrageSpeichern())
+        close();
+}
+
+void frmMain::InfoZeigen() {
+    frmAbout(this).exec();
+}
+
+void frmMain::DateiOeffnen(const QString& Pfad) {
+    FokusNehmen();
+    if (!FrageSpeichern())
+        return;
+    if (!LadeDatenbank(Pfad))
+        DatenbankWiederherstellen(Pfad);
+    AnsichtAktualisieren();
+}
+
+void frmMain::Hinweis(const QString& Text) {
+    HinweisFeld->setText(Text);
+}
+
+void frmMain::Tick() {
+    UhrZeigen();
+    Geschuetzt(EingabezaehlerTick);
+}
+
+void frmMain::ZustandSichern() {
+    EinstellungSchreiben(QStringLiteral("Passbild"),
+                         cbPassbild->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
+    FokusNehmen();
+    Geschuetzt(SpeichereParameter);
+    FensterlageSchreiben(*this);
+}
+
+void frmMain::closeEvent(QCloseEvent* Ereignis) {
+    timTimer->stop();
+    Geschuetzt([this] { ZustandSichern(); });
+    // At this point the end is settled: an answer "Abbrechen" leaves the changes unsaved.
+    Geschuetzt([] { FrageSpeichern(); });
+    const auto Fenster = QApplication::topLevelWidgets();
+    for (auto Eines = Fenster.crbegin(); Eines != Fenster.crend(); ++Eines)
+        if (*Eines != this && (*Eines)->isVisible())
+            (*Eines)->close();
+    Ereignis->accept();
+}
+
+namespace {
+
+/// The grade book a drag carries; empty if it is something else.
+QString GezogeneDatei(const QMimeData& Daten) {
+    const QList<QUrl> Adressen = Daten.urls();
+    const QString Pfad = Adressen.size() == 1 ? Adressen.first().toLocalFile() : QString();
+    return Pfad.endsWith(QStringLiteral(".txt"), Qt::CaseInsensitive) ? Pfad : QString();
+}
+
+} // namespace
+
+void frmMain::dragEnterEvent(QDragEnterEvent* Ereignis) {
+    if (!GezogeneDatei(*Ereignis->mimeData()).isEmpty())
+        Ereignis->acceptProposedAction();
+}
+
+void frmMain::dropEvent(QDropEvent* Ereignis) {
+    const QString Pfad = GezogeneDatei(*Ereignis->mimeData());
+    Ereignis->acceptProposedAction();
+    // The drag must end before a prompt comes up.
+    QTimer::singleShot(0, this, [this, Pfad] { Geschuetzt([this, Pfad] { DateiOeffnen(Pfad); }); });
+}
+
+bool frmMain::event(QEvent* Ereignis) {
+    // Boxes tell the status line what they did not take; menus without a hint send an empty text.
+    if (Ereignis->type() == QEvent::StatusTip) {
+        if (const QString Text = static_cast<QStatusTipEvent*>(Ereignis)->tip(); !Text.isEmpty())
+            Hinweis(Text);
+        return true;
+    }
+    return QMainWindow::event(Ereignis);
+}
+
+#include "moc_frmMain.cpp"
