@@ -8,6 +8,7 @@
 #include "core/Eingabezaehler.h"
 #include "core/Einstellungen.h"
 #include "core/Parameterdatei.h"
+#include "core/Rettung.h"
 #include "core/Zahlen.h"
 #include "frame/Ansichten.h"
 #include "frame/Fehlerschutz.h"
@@ -54,6 +55,7 @@ void frmMain::Laden() {
     Datenbank.AnzSchueler = Datenbank.AnzKlassen = Datenbank.AnzFaecher = 0;
     Datenbank.AnzNoten = Datenbank.AnzZSchueler = 0;
     DatenGeaendert = FormulierungenGeaendert = false;
+    RettungenAnbieten(); // before any file is read: the parameter file may be one of them
     LadeParameter();
     tabAnsicht->setCurrentIndex(Reiter::P);
     Geschuetzt([this] { LetzteDateiLaden(); });
