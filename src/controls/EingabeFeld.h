@@ -13,7 +13,7 @@ class EingabeFeld : public Textfeld {
     Q_OBJECT
 
   public:
-    explicit EingabeFeld(Gitter* Tabelle);
+    explicit EingabeFeld(Gitter* Eigner);
 
     /// Lays the box over the current cell with this text and colour, shows it and gives it the focus. No
     /// Geaendert.
@@ -28,4 +28,19 @@ class EingabeFeld : public Textfeld {
   Q_SIGNALS:
     void Geaendert(); ///< the text was changed by typing, pasting, cutting or from outside
     void Doppelgeklickt();
+
+  protected:
+    bool event(QEvent* Ereignis) override;
+    bool eventFilter(QObject* Objekt, QEvent* Ereignis) override;
+    void mouseDoubleClickEvent(QMouseEvent* Ereignis) override;
+    void changeEvent(QEvent* Ereignis) override;
+
+  private:
+    void FarbeSetzen(const QColor& Schriftfarbe);
+    void Anlegen();
+
+    Gitter* Tabelle;
+    std::function<bool(QKeyEvent*)> Tastenregel;
+    QColor Farbe;
+    bool Still = false;
 };

@@ -3,10 +3,12 @@
 #include <QColor>
 #include <QTableView>
 
+#include <functional>
+#include <optional>
 #include <vector>
 
 class Gittermodell;
-class Gitterrand;
+class Gittermaler;
 
 /// One cell: text and colours. A colour of 0 (fully transparent) is unset: black on white, mapped to the
 /// palette while painting.
@@ -28,7 +30,11 @@ enum class Sortierart { TextAufsteigend, ZahlAbsteigend };
 /// The one grid of the program: a table view over its own light model. Rows and columns are counted from 0
 /// with the fixed header rows and the fixed first columns, which are cells like any other and stay in place
 /// while the rest scrolls. Equal neighbours in a header row are merged where that row is set to. The cell
-/// entered last is the current one (Row, Col).
+/// entered last is the current one (Row, Col); Row and Col are -1 while there is none.
+///
+/// A click makes exactly the clicked cell current, be it fixed or not, and tells so even if it was current
+/// before; the view decides what a fixed cell means. The keys move among the cells that are not fixed, and
+/// stay in a fixed row or column they start from.
 ///
 /// Out of range: readers give "" , 0, an invalid colour or an empty rectangle; writers throw a
 /// Laufzeitfehler.
@@ -63,6 +69,10 @@ class Gitter : public QTableView {
     CellRect(int Zeile, int Spalte) const; ///< in the grid's own coordinates; a merged header gives the whole
     /// Makes the cell current as a click on it does: scrolled into view, ZelleBetreten, then Geklickt.
     Q_INVOKABLE void Enter(int Zeile, int Spalte);
+    /// The part of CellRect that is in sight: inside the grid and not covered by its fixed rows and columns.
+    QRect SichtbarerTeil(int Zeile, int Spalte) const;
+    /// Emits ZelleBetreten for the current cell once more, as when typing is to begin in it.
+    void Wiederbetreten();
 
     // Size and content. setRows and setCols keep what stays; new cells are empty.
     void setRows(int Anzahl);
@@ -121,6 +131,58 @@ class Gitter : public QTableView {
     void TasteGedrueckt(QKeyEvent* Ereignis);
     void TasteLosgelassen(QKeyEvent* Ereignis);
 
+  public:
+    // What Qt asks of a view whose fixed part covers the scrolled one.
+    QRect visualRect(const QModelIndex& Stelle) const override;
+    QModelIndex indexAt(const QPoint& Ort) const override;
+    void scrollTo(const QModelIndex& Stelle, ScrollHint Art = EnsureVisible) override;
+
+  protected:
+    void paintEvent(QPaintEvent* Ereignis) override;
+    void resizeEvent(QResizeEvent* Ereignis) override;
+    void changeEvent(QEvent* Ereignis) override;
+    bool viewportEvent(QEvent* Ereignis) override;
+    void focusInEvent(QFocusEvent* Ereignis) override;
+    void focusOutEvent(QFocusEvent* Ereignis) override;
+    void mousePressEvent(QMouseEvent* Ereignis) override;
+    void mouseMoveEvent(QMouseEvent* Ereignis) override;
+    void mouseReleaseEvent(QMouseEvent* Ereignis) override;
+    void mouseDoubleClickEvent(QMouseEvent* Ereignis) override;
+    void keyPressEvent(QKeyEvent* Ereignis) override;
+    void keyReleaseEvent(QKeyEvent* Ereignis) override;
+    void scrollContentsBy(int Dx, int Dy) override;
+    void updateGeometries() override;
+    QModelIndex moveCursor(CursorAction Richtung, Qt::KeyboardModifiers Zusatz) override;
+    QRegion visualRegionForSelection(const QItemSelection& Auswahl) const override;
+    void setSelection(const QRect& Bereich, QItemSelectionModel::SelectionFlags Art) override;
+    void currentChanged(const QModelIndex& Neu, const QModelIndex& Alt) override;
+
   private:
-    Gittermodell* Modell = nullptr;
+    class Stillhalten; ///< while it lives, a change of the current cell is not told
+
+    int FesteHoehe() const;
+    int FesteBreite() const;
+    int ZeilenAnfang(int Zeile) const; ///< y in the viewport
+    int SpaltenAnfang(int Spalte) const;
+    int ZeileBei(int Y) const; ///< in the viewport
+    int SpalteBei(int X) const;
+    QRect Zellrechteck(int Zeile, int Spalte) const; ///< in the viewport
+    QPoint Ursprung() const;                         ///< of the viewport in the grid
+    void LageMelden();
+    void ZeilenhoeheVorgeben();
+    void AktuelleLeeren();
+    void AnteileAnwenden();
+    void ZelleAnklicken(const QModelIndex& Stelle);
+    static std::optional<CursorAction> Bewegung(const QKeyEvent& Taste);
+    bool Weiter(bool Vorwaerts); ///< Tab: false at the end of the grid
+    void GroesseAendern(const std::function<void()>& Aendern);
+    std::vector<int> Sortierfolge(int Spalte, int Von, int Bis, Sortierart Art) const;
+
+    Gittermodell* Modell;
+    QList<double> Anteile;
+    int Stille = 0;
+    bool Umbruch = false;
+    bool LageVeraltet = false;
+    bool Gedrueckt = false; ///< the left button went down on a cell
+    friend class Gittermaler;
 };

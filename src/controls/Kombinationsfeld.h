@@ -8,9 +8,13 @@
 /// entry. The wheel does nothing without the focus; Return never reaches a default button.
 class Kombinationsfeld : public QComboBox {
     Q_OBJECT
+    Q_PROPERTY(bool editable READ isEditable WRITE setEditable)
 
   public:
     explicit Kombinationsfeld(QWidget* Eltern = nullptr);
+
+    /// In place of Qt's: the line is a Textfeld, and nothing completes it.
+    void setEditable(bool Bearbeitbar);
 
     void setSortiert(bool Sortiert); ///< entries are kept sorted by the locale's collation, case ignored
     void Leeren();                   ///< no entries, no text, no Klick
@@ -26,4 +30,23 @@ class Kombinationsfeld : public QComboBox {
     void Klick();                      ///< an entry was chosen (also the same again, by the user)
     void Anlegen(const QString& Text); ///< a typed, not empty text is to become something new
     void Betreten();                   ///< got the focus
+
+  public:
+    void showPopup() override;
+
+  protected:
+    void keyPressEvent(QKeyEvent* Ereignis) override;
+    void wheelEvent(QWheelEvent* Ereignis) override;
+
+  private:
+    int Platz(const QString& Text) const;
+    void AuswahlLoesen();
+    void TextGewechselt(const QString& Text);
+    void IndexGewechselt(int Index);
+    void VomBenutzerGewaehlt();
+    void VerlassenPruefen();
+
+    bool Sortiert = false;
+    bool Still = false;         ///< a fill is no Klick
+    bool SchonGemeldet = false; ///< the index has changed since the list was opened
 };

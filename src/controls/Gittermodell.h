@@ -1,0 +1,83 @@
+#pragma once
+
+#include "controls/Gitter.h"
+
+#include <QAbstractTableModel>
+
+/// What a grid shows: texts and colours in one flat block, row by row, with the hidden data of rows and
+/// columns. The header rows and fixed columns are rows and columns like any other; headerData answers their
+/// texts as well, for screen readers.
+class Gittermodell : public QAbstractTableModel {
+    Q_OBJECT
+
+  public:
+    /// Role of the hidden datum of a row.
+    static constexpr int DatumRolle = Qt::UserRole;
+
+    explicit Gittermodell(QObject* Eltern = nullptr);
+
+    int rowCount(const QModelIndex& Eltern = {}) const override;
+    int columnCount(const QModelIndex& Eltern = {}) const override;
+    QVariant data(const QModelIndex& Stelle, int Rolle) const override;
+    QVariant headerData(int Abschnitt, Qt::Orientation Richtung, int Rolle) const override;
+    Qt::ItemFlags flags(const QModelIndex& Stelle) const override;
+
+    int Zeilen() const { return static_cast<int>(Zeilendaten.size()); }
+    int Spalten() const { return static_cast<int>(Spaltendaten.size()); }
+    bool Enthaelt(int Zeile, int Spalte) const;
+    const Gitterzelle& Zelle(int Zeile, int Spalte) const; ///< an empty one outside
+    int Zeilendatum(int Zeile) const;                      ///< 0 outside
+    int Spaltendatum(int Spalte) const;                    ///< 0 outside
+    Qt::Alignment Ausrichtung(int Spalte) const;
+    /// Width of the text in pixels, measured once by Messen and kept until the text or the font changes.
+    template <class Messung>
+    int Textbreite(int Zeile, int Spalte, const Messung& Messen) const {
+        int& Breite = Breiten[Platz(Zeile, Spalte)];
+        if (Breite < 0)
+            Breite = Messen(Zellen[Platz(Zeile, Spalte)].Text);
+        return Breite;
+    }
+    void TextbreitenVergessen();
+
+    // The writers throw a Laufzeitfehler outside the grid, and tell their views only if something changes.
+    void TextSetzen(int Zeile, int Spalte, const QString& Text);
+    void FarbenSetzen(int Zeile, int Spalte, QRgb Vordergrund, QRgb Hintergrund);
+    void ZeilendatumSetzen(int Zeile, int Datum);
+    void SpaltendatumSetzen(int Spalte, int Datum);
+    void AusrichtungSetzen(int Spalte, Qt::Alignment Ausrichtung);
+    void VerbindenSetzen(int Zeile, bool Verbinden);
+    void ZeilenanzahlSetzen(int Anzahl);
+    void SpaltenanzahlSetzen(int Anzahl);
+    void FestSetzen(int Zeilen, int Spalten); ///< for headerData and merging
+    void RumpfSetzen(std::vector<Gitterzeile> Zeilen);
+    /// Row Von+i becomes what row Von+Reihenfolge[i] was.
+    void Umordnen(int Von, const std::vector<int>& Reihenfolge);
+
+    int FesteZeilen() const { return AnzFesteZeilen; }
+    int FesteSpalten() const { return AnzFesteSpalten; }
+    /// First and last column of the merged cell that covers this one; the column itself where none is merged.
+    std::pair<int, int> Gruppe(int Zeile, int Spalte) const;
+
+  private:
+    struct Spaltenangabe {
+        qint32 Datum = 0;
+        Qt::Alignment Ausrichtung = Qt::AlignLeft | Qt::AlignVCenter;
+    };
+
+    std::size_t Platz(int Zeile, int Spalte) const {
+        return static_cast<std::size_t>(Zeile) * Spaltendaten.size() + static_cast<std::size_t>(Spalte);
+    }
+    std::size_t Geprueft(int Zeile, int Spalte) const;
+    bool Verbindet(int Zeile) const;
+    bool GehoertZusammen(int Zeile, int Links, int Rechts) const;
+    QString Kopftext(int Spalte) const;
+    void ZeileUebernehmen(std::size_t Ziel, Gitterzeile&& Zeile);
+
+    std::vector<Gitterzelle> Zellen;
+    mutable std::vector<int> Breiten; ///< one for each cell; -1: not measured
+    std::vector<qint32> Zeilendaten;
+    std::vector<Spaltenangabe> Spaltendaten;
+    std::vector<bool> Verbunden; ///< by header row
+    int AnzFesteZeilen = 0;
+    int AnzFesteSpalten = 0;
+};
