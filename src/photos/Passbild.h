@@ -7,8 +7,9 @@ struct Schueler;
 // Photos are plain files in a folder tree beside the grade book:
 // "Passbilder/2003-04/<class>/<name>.bmp". Two students of one name in one class share one file.
 
-/// Path of the photo of a student under this name, whether or not the file exists. Empty if there can be none:
-/// the grade book has no file yet, the setting AutoLaden is off, or year, class or name hold a separator or
+/// Path of the photo of a student under this name, whether or not the file exists. Empty if there can be
+/// none: the grade book has no file yet, the setting AutoLaden is off, or year, class or name hold a
+/// separator or
 /// "..", which would lead out of the folder.
 QString PassbildPfad(const Schueler& Einer, const QString& Name);
 
