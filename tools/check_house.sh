@@ -25,7 +25,7 @@ $hits"
 }
 found "A box or file dialog outside frame/:" '\b(QMessageBox|QFileDialog|QErrorMessage|QInputDialog)\b' src ':!src/frame'
 found "The clock is asked outside Uhr.cpp:" 'currentDate(Time)?(Utc)?\(|QTime::currentTime' src ':!src/core/Uhr.cpp'
-found "The locale is asked outside Zahlen.cpp:" 'QLocale::system\(|QLocale\(\)' src ':!src/core/Zahlen.cpp'
+found "The locale is asked outside Sprachregeln.cpp:" 'QLocale::system\(|QLocale\(\)' src ':!src/core/Sprachregeln.cpp'
 found "A wait for time in a test:" '\b(qWait|qSleep|sleep_for)\(' tests ':!tests/program' ':!tests/sweep'
 found "Unfinished work:" '\b(TODO|FIXME|XXX|HACK)\b' src tests tools bench fuzz ':!tools/check_house.sh'
 found "A file is opened outside the module that never loses one:" '\b(QSaveFile|QTextStream)\b' src
