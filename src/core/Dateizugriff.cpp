@@ -59,12 +59,12 @@ int InsFreieLesen(const Deskriptor& Datei, QByteArray* Inhalt, qsizetype* Stelle
 
 /// A big buffer costs more in page faults than in reading: large pages where the system has them spare nearly
 /// all of these. What does not work changes nothing.
-void GrosseSeitenErbitten([[maybe_unused]] QByteArray& Puffer) {
+void GrosseSeitenErbitten([[maybe_unused]] QByteArray& Bereich) {
 #ifdef MADV_HUGEPAGE
     constexpr quintptr Seite = quintptr(2) << 20;
-    const auto Anfang = (reinterpret_cast<quintptr>(Puffer.data()) + Seite - 1) / Seite * Seite;
+    const auto Anfang = (reinterpret_cast<quintptr>(Bereich.data()) + Seite - 1) / Seite * Seite;
     const auto Ende =
-        (reinterpret_cast<quintptr>(Puffer.data()) + static_cast<quintptr>(Puffer.size())) / Seite * Seite;
+        (reinterpret_cast<quintptr>(Bereich.data()) + static_cast<quintptr>(Bereich.size())) / Seite * Seite;
     if (Ende > Anfang)
         madvise(reinterpret_cast<void*>(Anfang), Ende - Anfang, MADV_HUGEPAGE);
 #endif
