@@ -16,6 +16,7 @@ class TestEnde : public QObject {
     Testwelt Welt;
     Hauptfenster Fenster;
     const QString Frage = QStringLiteral("Möchten Sie die Änderungen in Unbenannt speichern?");
+    const QString FrageFormulierungen = QStringLiteral("Möchten Sie die Formulierungs-Änderungen in ");
 
     int Gespeichert(const char* Schluessel) const {
         return EinstellungLesen(QString::fromUtf8(Schluessel), QStringLiteral("-1")).toInt();
@@ -24,7 +25,7 @@ class TestEnde : public QObject {
   private Q_SLOTS:
     void init() {
         Welt.Herstellen();
-        Hauptfenster::OrdnerAnlegen(Welt);
+        Hauptfenster::OrdnerAnlegen();
         Fenster.Starten();
     }
     void cleanup() {
@@ -37,13 +38,31 @@ class TestEnde : public QObject {
         QVERIFY(!Fenster->isVisible());
     }
 
-    void BeendenMitAbbrechenLaesstDasProgrammLaufen() {
-        DatenGeaendert = true;
-        Welt.Boxen.ErwarteFrage(Frage, Antwort::Abbrechen);
+    void BeendenFragtBeidesUndAbbrechenLaesstDasProgrammLaufen_data() {
+        QTest::addColumn<int>("Erste");
+        QTest::addColumn<int>("Zweite");
+        QTest::newRow("bei den Formulierungen") << int(Antwort::Abbrechen) << int(Antwort::Nein);
+        QTest::newRow("bei der Datenbank") << int(Antwort::Nein) << int(Antwort::Abbrechen);
+        QTest::newRow("bei beiden") << int(Antwort::Abbrechen) << int(Antwort::Abbrechen);
+    }
+    void BeendenFragtBeidesUndAbbrechenLaesstDasProgrammLaufen() {
+        QFETCH(int, Erste);
+        QFETCH(int, Zweite);
+        DatenGeaendert = FormulierungenGeaendert = true;
+        Welt.Boxen.ErwarteFrage(FrageFormulierungen, Antwort(Erste));
+        Welt.Boxen.ErwarteFrage(Frage, Antwort(Zweite));
         Fenster.Aktion("mnuFileExit")->trigger();
         QVERIFY(Fenster->isVisible());
-        QVERIFY(DatenGeaendert);
-        DatenGeaendert = false;
+        QVERIFY(Welt.Boxen.AllesGefragt());
+        DatenGeaendert = FormulierungenGeaendert = false;
+    }
+
+    void DasSchliessfeldFragtErstNachDerDatenbankDannNachDenFormulierungen() {
+        DatenGeaendert = FormulierungenGeaendert = true;
+        Welt.Boxen.ErwarteFrage(Frage, Antwort::Abbrechen);
+        Welt.Boxen.ErwarteFrage(FrageFormulierungen, Antwort::Abbrechen);
+        Fenster->close();
+        QVERIFY(!Fenster->isVisible());
     }
 
     void BeendenMitNeinFragtNurEinmal() {

@@ -46,7 +46,7 @@ class TestHauptfenster : public QObject {
   private Q_SLOTS:
     void init() {
         Welt.Herstellen();
-        Hauptfenster::OrdnerAnlegen(Welt);
+        Hauptfenster::OrdnerAnlegen();
     }
     void cleanup() {
         Fenster.Schliessen();
@@ -137,6 +137,12 @@ class TestHauptfenster : public QObject {
         QVERIFY(Welt.Boxen.Gezeigt.first().Text.contains(Pfad));
         QCOMPARE(Fenster->windowTitle(), QStringLiteral("Tafelquell 3.1 - Unbenannt"));
         QCOMPARE(EinstellungLesen(QStringLiteral("AutoDatei"), {}), Unbenannt);
+    }
+
+    void DieFormulierungenDesProgrammverzeichnissesWerdenGeladen() {
+        Fenster.Starten();
+        QVERIFY(AnzLernbereiche > 0);
+        QVERIFY(!FormulierungenGeaendert);
     }
 
     void DieEinstellungPassbildKommtWiederUndBleibt() {
