@@ -1,5 +1,7 @@
 #include "Hauptfenster.h"
+#include "common/Testbuch.h"
 #include "common/Testprogramm.h"
+#include "core/Datenbankdatei.h"
 #include "core/Definitionen.h"
 #include "core/Einstellungen.h"
 #include "core/Orte.h"
@@ -133,6 +135,40 @@ class TestEnde : public QObject {
         Fenster->close();
         QCOMPARE(Gespeichert("MainLeft"), 1500);
         QCOMPARE(Gespeichert("MainWidth"), 15000);
+    }
+
+    void EinSignalRettetUngespeichertesFuerDenNaechstenStart() {
+        const QString Pfad = Welt.Pfad(QStringLiteral("klasse.txt"));
+        TestbuchLaden(QStringLiteral("Klasse 7a"));
+        SpeichernDatenbank3(Pfad);
+        const QByteArray Alt = Testwelt::DateiInhalt(Pfad);
+        TestbuchLaden(QStringLiteral("Klasse 8b"));
+        DatenGeaendert = true;
+        const Sitzungsende Waechter(*Fenster);
+        QTimer::singleShot(0, this, [] { ::raise(SIGTERM); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QCOMPARE(Testwelt::DateiInhalt(Pfad), Alt);
+        Fenster.Schliessen();
+
+        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), 0);
+        Fenster.Starten();
+        QCOMPARE(Datenbank.AnzKlassen, qint16(2));
+        QCOMPARE(Datenbank.Klassen[1].Name, QStringLiteral("8b"));
+    }
+
+    void EinSignalRettetAuchEinBuchOhneDatei() {
+        TestbuchLaden(QStringLiteral("Klasse 8b"));
+        DatenGeaendert = true;
+        const Sitzungsende Waechter(*Fenster);
+        QTimer::singleShot(0, this, [] { ::raise(SIGHUP); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+        Fenster.Schliessen();
+
+        const QString Pfad = Welt.Pfad(QStringLiteral("gerettet.txt"));
+        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Die Datei"), 0);
+        Welt.Boxen.ErwarteSpeichern(QStringLiteral("Speichern unter..."), Dateiwahl{Pfad, 1});
+        Fenster.Starten();
+        QVERIFY(Testwelt::DateiInhalt(Pfad).contains("\t8b"));
     }
 
     void EinSignalBeendetOhneFrageUndBewahrtDieLage() {
