@@ -94,7 +94,7 @@ class TestHauptfenster : public QObject {
     void JedesBedienelementHatEinenNamenFuerVorleser() {
         Fenster.Starten();
         for (QWidget* Feld : Fenster->findChildren<QWidget*>()) {
-            if (Feld->focusPolicy() == Qt::NoFocus || !Feld->isVisible())
+            if (Feld->focusPolicy() == Qt::NoFocus || Feld->focusProxy() || !Feld->isVisible())
                 continue;
             const auto* Zugang = QAccessible::queryAccessibleInterface(Feld);
             if (Zugang && Zugang->role() != QAccessible::PageTabList)
