@@ -2,6 +2,7 @@
 
 #include "controls/Ansicht.h"
 #include "core/Reihe.h"
+#include "grading/AnsichtP.h"
 #include "views/AnsichtS.h"
 
 #include <QString>
@@ -27,7 +28,7 @@ struct Ansichtseintrag {
 
 constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
     {"Schüler- und Fächerliste", Neue<AnsichtS>, true},
-    {"Probenauswertung", Neue<LeereAnsicht>, false},
+    {"Probenauswertung", Neue<AnsichtP>, false},
     {"Notenliste eines Faches", Neue<LeereAnsicht>, true},
     {"Notenliste eines Schülers", Neue<LeereAnsicht>, false},
     {"Beurteilungen", Neue<LeereAnsicht>, true},
