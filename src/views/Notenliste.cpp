@@ -1,0 +1,197 @@
+#include "views/Notenliste.h"
+
+#include "controls/EingabeFeld.h"
+#include "controls/Gitter.h"
+#include "core/Definitionen.h"
+#include "core/Eingabezaehler.h"
+#include "core/FktSpeziell.h"
+#include "grading/Gesamtnoten.h"
+#include "views/Fuellsperre.h"
+
+namespace {
+
+constexpr int Halbjahrzeile = 1;
+constexpr int ErsteZeile = 2;
+constexpr QRgb VonHand = qRgb(255, 0, 0);
+constexpr QRgb Berechnet = qRgb(0, 0, 0);
+
+/// Shares of the width: the name, thirty grades, and twice average and report grade.
+QList<double> Spaltenanteile() {
+    constexpr double Note = 0.0235;
+    constexpr double Durchschnitt = 0.035;
+    constexpr double Zeugnis = 0.0525;
+    QList<double> Anteile{1 - 30 * Note - 2 * Durchschnitt - 2 * Zeugnis};
+    Anteile.append(QList<double>(30, Note));
+    Anteile.append({Durchschnitt, Zeugnis, Durchschnitt, Zeugnis});
+    return Anteile;
+}
+
+Reihe<QString, 31> Notentexte(const Gitter& Tabelle, int Zeile) {
+    Reihe<QString, 31> Texte;
+    for (int Spalte = 1; Spalte <= Notenspalte::LetzteNote; ++Spalte)
+        Texte[Spalte] = Tabelle.TextMatrix(Zeile, Spalte);
+    return Texte;
+}
+
+bool PunkteVonHand(const Notenzeile& Zeile, int Spalte) {
+    return Spalte <= Notenspalte::LetzterTest && Zeile.P[Spalte].startsWith(u'-');
+}
+
+/// A whole row of the list with its colours, the averages included.
+Gitterzeile NeueGitterzeile(const Notenlistenzeile& Quelle, const Gesamtregeln& Regeln) {
+    const Notenzeile& Satz = Datenbank.Noten[Quelle.Platz];
+    Gitterzeile Zeile{Quelle.Datum, std::vector<Gitterzelle>(Notenspalte::Anzahl)};
+    const auto Zelle = [&Zeile](int Spalte) -> Gitterzelle& {
+        return Zeile.Zellen[static_cast<std::size_t>(Spalte)];
+    };
+    Zelle(Notenspalte::Name).Text = Quelle.Name;
+    for (int Spalte = 1; Spalte <= Notenspalte::LetzteNote; ++Spalte) {
+        Zelle(Spalte).Text = Satz.N[Spalte];
+        Zelle(Spalte).Vordergrund = PunkteVonHand(Satz, Spalte) ? VonHand : Berechnet;
+    }
+    Zelle(Notenspalte::HalbjahrZeugnis).Text = Satz.Gesamt1;
+    Zelle(Notenspalte::JahrZeugnis).Text = Satz.Gesamt2;
+    if (Quelle.FachPlatz < 0)
+        return Zeile;
+    const Halbjahresbeginn Beginn = HalbjahresbeginnVon(Datenbank.Faecher[Quelle.FachPlatz]);
+    const Durchschnitte Beide = DurchschnitteBerechnen(Satz.N, Beginn, Regeln);
+    Zelle(Notenspalte::HalbjahrDurchschnitt).Text = Beide.Halbjahr;
+    Zelle(Notenspalte::JahrDurchschnitt).Text = Beide.Jahr;
+    for (int Spalte = 0; Spalte < Notenspalte::Anzahl; ++Spalte)
+        Zelle(Spalte).Hintergrund = Notenspaltenfarbe(Spalte, Beginn);
+    return Zeile;
+}
+
+} // namespace
+
+Notenliste::Notenliste(Gitter* Liste, Listenart& WelcheArt)
+    : QObject(Liste)
+    , Tabelle(Liste)
+    , Feld(new EingabeFeld(Liste))
+    , Art(WelcheArt) {
+    GitterEinrichten();
+    EingabeEinrichten();
+}
+
+Notenliste::~Notenliste() {
+    EingabezaehlerAktion(Art.Zaehlerplatz(), {});
+}
+
+void Notenliste::GitterEinrichten() {
+    Tabelle->setCols(Notenspalte::Anzahl);
+    Tabelle->setRows(ErsteZeile + 1);
+    Tabelle->setFixedRows(ErsteZeile);
+    Tabelle->setFixedCols(1);
+    Tabelle->setMergeRow(0, true);
+    Tabelle->setMergeRow(Halbjahrzeile, true);
+    Tabelle->setColShares(Spaltenanteile());
+    for (int Spalte = 1; Spalte < Notenspalte::Anzahl; ++Spalte)
+        Tabelle->setColAlignment(Spalte, Qt::AlignCenter);
+    Tabelle->setTextMatrix(0, Notenspalte::Name, Art.Kopf());
+    for (const int Spalte : {Notenspalte::HalbjahrDurchschnitt, Notenspalte::HalbjahrZeugnis})
+        Tabelle->setTextMatrix(0, Spalte, QStringLiteral("Halbjahr"));
+    for (const int Spalte : {Notenspalte::JahrDurchschnitt, Notenspalte::JahrZeugnis})
+        Tabelle->setTextMatrix(0, Spalte, QStringLiteral("Endjahr"));
+    for (const int Spalte : {Notenspalte::HalbjahrDurchschnitt, Notenspalte::JahrDurchschnitt})
+        Tabelle->setTextMatrix(Halbjahrzeile, Spalte, QStringLiteral("Ø"));
+    for (const int Spalte : {Notenspalte::HalbjahrZeugnis, Notenspalte::JahrZeugnis})
+        Tabelle->setTextMatrix(Halbjahrzeile, Spalte, QStringLiteral("Zeugnis"));
+}
+
+void Notenliste::Fuellen() {
+    const Fuellsperre Sperre;
+    Feld->Verbergen();
+    Art.EingabeAbgebrochen();
+    const bool Gewaehlt = Art.Gewaehlt();
+    Art.Aktiv(Gewaehlt);
+    if (!Gewaehlt) {
+        Tabelle->ZeilenSetzen({});
+        return;
+    }
+    TitelSchreiben();
+    ZeilenSchreiben();
+    EingabezaehlerLeeren();
+}
+
+void Notenliste::TitelSchreiben() {
+    const int Stufe = qBound(1, Art.Stufe(), Probenbezeichnung.size() - 1);
+    for (int i = 1; i <= 10; ++i) {
+        Tabelle->setTextMatrix(0, i, Probenbezeichnung[Stufe]);
+        Tabelle->setTextMatrix(0, 10 + i, ExtemporalenBezeichnung[Stufe]);
+        Tabelle->setTextMatrix(0, 20 + i, QStringLiteral("Mündlich"));
+    }
+}
+
+void Notenliste::ZeilenSchreiben() {
+    const Gesamtregeln Regeln = AktuelleGesamtregeln();
+    std::vector<Gitterzeile> Zeilen;
+    for (const Notenlistenzeile& Eine : Art.Zeilen())
+        Zeilen.push_back(NeueGitterzeile(Eine, Regeln));
+    Tabelle->ZeilenSetzen(std::move(Zeilen));
+    if (Art.NachNamen() && Tabelle->Rows() >= 5)
+        Tabelle->Sortieren(Notenspalte::Name, ErsteZeile, Tabelle->Rows() - 2, Sortierart::TextAufsteigend);
+    Tabelle->setCell(ErsteZeile, Notenspalte::Name);
+    HalbjahreAnzeigen();
+}
+
+void Notenliste::HalbjahreAnzeigen() {
+    const Fuellsperre Sperre;
+    const int Eingabezeile = Tabelle->Rows() - 1;
+    // The header follows the first row; without one it stays as it is.
+    const int Erstes = FachIndex(Art.FachID(Tabelle->RowData(ErsteZeile)));
+    if (Erstes >= 0) {
+        const Halbjahresbeginn Beginn = HalbjahresbeginnVon(Datenbank.Faecher[Erstes]);
+        for (int Spalte = 1; Spalte <= Notenspalte::LetzteNote; ++Spalte)
+            Tabelle->setTextMatrix(Halbjahrzeile, Spalte, Halbjahrestitel(Spalte, Beginn));
+    }
+    for (int Zeile = ErsteZeile; Zeile < Eingabezeile; ++Zeile) {
+        const int Platz = FachIndex(Art.FachID(Tabelle->RowData(Zeile)));
+        if (Platz < 0)
+            continue;
+        const Halbjahresbeginn Beginn = HalbjahresbeginnVon(Datenbank.Faecher[Platz]);
+        for (int Spalte = 0; Spalte < Notenspalte::Anzahl; ++Spalte)
+            Tabelle->setCellBackColor(Zeile, Spalte, Notenspaltenfarbe(Spalte, Beginn));
+    }
+    Tabelle->setCellBackColor(Eingabezeile, Notenspalte::Name, Notenspaltenfarbe(Notenspalte::Name, {}));
+}
+
+void Notenliste::GesamtnotenBerechnen() {
+    const Gesamtregeln Regeln = AktuelleGesamtregeln();
+    for (int Zeile = ErsteZeile; Zeile <= Tabelle->Rows() - 2; ++Zeile) {
+        const int Platz = FachIndex(Art.FachID(Tabelle->RowData(Zeile)));
+        if (Platz < 0)
+            continue;
+        const Durchschnitte Beide = DurchschnitteBerechnen(
+            Notentexte(*Tabelle, Zeile), HalbjahresbeginnVon(Datenbank.Faecher[Platz]), Regeln);
+        Tabelle->setTextMatrix(Zeile, Notenspalte::HalbjahrDurchschnitt, Beide.Halbjahr);
+        Tabelle->setTextMatrix(Zeile, Notenspalte::JahrDurchschnitt, Beide.Jahr);
+    }
+}
+
+bool Notenliste::InEingabezeile() const {
+    return Tabelle->Row() == Tabelle->Rows() - 1;
+}
+
+qint32 Notenliste::AktDatum() const {
+    return Tabelle->RowData(Tabelle->Row());
+}
+
+QString Notenliste::Name() const {
+    return Tabelle->TextMatrix(Tabelle->Row(), Notenspalte::Name);
+}
+
+void Notenliste::ZurEingabezeile() {
+    if (InEingabezeile())
+        ZelleBetreten();
+    else
+        Tabelle->setRow(Tabelle->Rows() - 1);
+}
+
+void Notenliste::AufLetzteZeile() {
+    Tabelle->setRow(qMax(ErsteZeile, Tabelle->Rows() - 2));
+}
+
+void Notenliste::EineZeileHinauf() {
+    if (Tabelle->Row() > ErsteZeile)
+        Tabelle->setRow(Tabelle->Row() - 1);
+}
