@@ -5,6 +5,7 @@
 #include <functional>
 
 class Gitter;
+class Zellanker;
 
 /// The floating edit box: lies over the current cell of its grid, of which it is a child, and follows it when
 /// the grid scrolls or changes size. What a commit does, which keys move and when a countdown starts is the
@@ -33,14 +34,12 @@ class EingabeFeld : public Textfeld {
 
   protected:
     bool event(QEvent* Ereignis) override;
-    bool eventFilter(QObject* Objekt, QEvent* Ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent* Ereignis) override;
     void changeEvent(QEvent* Ereignis) override;
 
   private:
-    void Anlegen();
-
     Gitter* Tabelle;
+    Zellanker* Anker;
     std::function<bool(QKeyEvent*)> Tastenregel;
     QColor Farbe;
     bool Still = false;

@@ -86,7 +86,9 @@ class Gitter : public QTableView {
     void setCellBackColor(int Zeile, int Spalte, QColor Farbe);
     void setColAlignment(int Spalte, Qt::Alignment Ausrichtung);
     void setMergeRow(int Zeile, bool Verbinden); ///< equal neighbours in this header row show as one
-    void setWordWrapCells(bool Umbrechen);       ///< texts break over several lines (assessment grids)
+    /// Texts break over several lines, at CR LF too (assessment grids).
+    void setWordWrapCells(bool Umbrechen);
+    static constexpr int UmbruchRand = 2; ///< between the edge of a cell and a text that breaks
     /// Replaces all rows from FixedRows on by these, followed by one empty entry row, in one reset. Current
     /// cell: kept if it still exists; no ZelleBetreten.
     void ZeilenSetzen(std::vector<Gitterzeile> Zeilen);
@@ -103,6 +105,7 @@ class Gitter : public QTableView {
     int ColWidth(int Spalte) const;
     void setRowHeight(int Zeile, int Hoehe);
     int RowHeight(int Zeile) const;
+    void setRowHeights(int Erste, const std::vector<int>& Hoehen); ///< of several rows, in one go
     /// Widths as shares of the width available; they follow every change of size. Empty: widths stay as set.
     void setColShares(const QList<double>& Anteile);
     int RowAt(int Y) const; ///< row at this y of the grid's own coordinates, -1 if none

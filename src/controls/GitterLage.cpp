@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -132,6 +133,16 @@ void Gitter::setRowHeight(int Zeile, int Hoehe) {
     if (Zeile < 0 || Zeile >= Rows())
         IndexFehler(Zeile, static_cast<std::size_t>(Rows()));
     QTableView::setRowHeight(Zeile, qMax(Hoehe, 0));
+}
+
+void Gitter::setRowHeights(int Erste, const std::vector<int>& Hoehen) {
+    {
+        const QSignalBlocker Still(verticalHeader());
+        for (std::size_t i = 0; i < Hoehen.size(); ++i)
+            setRowHeight(Erste + static_cast<int>(i), Hoehen[i]);
+    }
+    updateGeometries();
+    viewport()->update();
 }
 
 int Gitter::RowHeight(int Zeile) const {

@@ -97,7 +97,10 @@ void Gittermaler::TextMalen(const Zelltext& Text) {
     const auto [Erste, Letzte] = Tabelle.Modell->Gruppe(Text.Zeile, Text.Spalte);
     const Qt::Alignment Seite = Letzte > Erste ? Qt::AlignCenter : Tabelle.Modell->Ausrichtung(Text.Spalte);
     if (Tabelle.Umbruch) {
-        Stift.drawText(Text.Platz, static_cast<int>(Seite) | Qt::TextWordWrap, Inhalt);
+        constexpr int Mehr = Rand - Gitter::UmbruchRand;
+        const QRect Platz = Text.Platz.adjusted(-Mehr, Gitter::UmbruchRand, Mehr, -Gitter::UmbruchRand);
+        Stift.drawText(Platz, static_cast<int>(Seite) | Qt::TextWordWrap,
+                       QString(Inhalt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
         return;
     }
     const QFontMetrics Mass = Stift.fontMetrics();

@@ -13,9 +13,6 @@ class Textfeld : public QLineEdit {
   public:
     explicit Textfeld(QWidget* Eltern = nullptr);
 
-    /// Says that a character was not taken.
-    void EntfallenMelden();
-
   Q_SIGNALS:
     void Betreten(); ///< the box got the focus (GotFocus)
     /// The focus leaves the box for another control of the window, or a command takes it (Validate). Not when

@@ -6,6 +6,7 @@
 #include "core/Meldungen.h"
 #include "core/NeuesBuch.h"
 #include "core/Oberflaeche.h"
+#include "core/Rettung.h"
 #include "core/Speichern.h"
 
 #include <QCoreApplication>
@@ -74,6 +75,7 @@ void DatenbankOeffnen() {
     const auto Wahl = Meldungen().Oeffnen({Tr("Öffnen"), {{Tr("Notendatenbank (*.txt)"), Muster}}, {}});
     if (!Wahl || Wahl->Pfad.isEmpty())
         return;
+    RettungAnbietenFuer(Wahl->Pfad);
     if (!LadeDatenbank(Wahl->Pfad))
         DatenbankWiederherstellen(Wahl->Pfad);
     AktuelleOberflaeche().AnsichtAktualisieren();

@@ -1,7 +1,6 @@
 #include "frame/Menue.h"
 
 #include "core/Dokument.h"
-#include "core/Einstellungen.h"
 #include "frame/Hilfe.h"
 #include "frame/Zwischenablage.h"
 #include "frame/frmMain.h"
@@ -33,10 +32,7 @@ constexpr Menueintrag Menuebaum[] = {
      .Ablauf = [](frmMain&) { SicherheitskopieErstellen(); }},
     {.Name = "mnuFileRestore",
      .Text = "&Wiederherstellen aus Sicherheitskopie",
-     .Ablauf =
-         [](frmMain&) {
-             DatenbankWiederherstellen(EinstellungLesen(QStringLiteral("AutoDatei"), Unbenannt));
-         }},
+     .Ablauf = [](frmMain&) { DatenbankWiederherstellen(AutoDatei()); }},
     {.Art = Strich, .Name = "mnuFileBar4"},
     {.Name = "mnuFilePrintPreview", .Text = "Seiten&ansicht"},
     {.Name = "mnuFilePageSetup", .Text = "Drucker ein&richten..."},

@@ -1,7 +1,7 @@
 #include "frame/Sitzungsende.h"
 
 #include "core/Dokument.h"
-#include "frame/Fehlerschutz.h"
+#include "core/Fehlerfang.h"
 #include "frame/frmMain.h"
 
 #include <QGuiApplication>
@@ -58,7 +58,7 @@ Sitzungsende::~Sitzungsende() {
 }
 
 void Sitzungsende::OhneFrageSichern() {
-    Geschuetzt([this] { Fenster.ZustandSichern(); });
+    Ausfuehren([this] { Fenster.ZustandSichern(); });
 }
 
 void Sitzungsende::SitzungEndet(QSessionManager& Verwaltung) {
@@ -66,7 +66,7 @@ void Sitzungsende::SitzungEndet(QSessionManager& Verwaltung) {
         OhneFrageSichern();
         return;
     }
-    Geschuetzt([&Verwaltung] {
+    Ausfuehren([&Verwaltung] {
         if (!FrageSpeichern())
             Verwaltung.cancel();
     });

@@ -13,6 +13,7 @@ class QCheckBox;
 class QLabel;
 class QTabWidget;
 class QTimer;
+struct Leisteneintrag;
 struct Menueintrag;
 
 /// The main window: five tabs, menus, tool bar, status bar, the timer of the delayed commits. It builds
@@ -56,10 +57,13 @@ class frmMain : public QMainWindow, public Oberflaeche {
     void MenueBauen();
     void EintragBauen(const Menueintrag& Eintrag);
     void LeisteBauen();
+    void KnopfBauen(const Leisteneintrag& Eintrag);
+    void JahrgangBauen();
     void StatuszeileBauen();
+    QLabel* FeldBauen(const QString& Name, const QString& Bedeutung);
     void ReiterBauen();
     QWidget* AnsichtBauen(int Nummer);
-    void Ausfuehren(const Menueintrag& Eintrag);
+    void BefehlAusfuehren(const Menueintrag& Eintrag);
     void EintragErlauben(const QString& Name, bool Erlaubt);
     void Hinweis(const QString& Text);
     void JahrgangGewechselt();

@@ -21,7 +21,7 @@ AnsichtN1::AnsichtN1(QWidget* Eltern)
     Liste = new Notenliste(Form->tblN1Noten, *this);
     connect(Liste, &Notenliste::HinweisGewuenscht, this, &Ansicht::HinweisGewuenscht);
     KnoepfeVerbinden();
-    Aktiv(false);
+    AktivSetzen(false);
     Form->btN1FachLoeschen->setEnabled(false);
     Form->btN1SchuelerLoeschen->setEnabled(false);
 }
@@ -104,7 +104,7 @@ bool AnsichtN1::NamenAendern(qint32 Datum, const QString& Name) {
     return SchuelerNamenAendern(Datum, Name);
 }
 
-void AnsichtN1::Aktiv(bool Aktiv) {
+void AnsichtN1::AktivSetzen(bool Aktiv) {
     Form->btN1NeuerSchueler->setEnabled(Aktiv);
     Form->btN1HJGrenzenFestlegen->setEnabled(Aktiv);
     Form->tblN1Noten->setEnabled(Aktiv);
@@ -127,15 +127,11 @@ void AnsichtN1::EingabeAbgebrochen() {
 }
 
 /// In a subject of several classes a new student needs a class first.
-bool AnsichtN1::AndersEingeben() {
-    if (KlassenDesFelds(Form->cbN1KlasseFach->currentText()).size() < 2)
-        return false;
-    EingabeAbgebrochen();
-    SchuelerMitKlassenwahl();
-    return true;
+bool AnsichtN1::MitKlassenwahl() const {
+    return KlassenDesFelds(Form->cbN1KlasseFach->currentText()).size() > 1;
 }
 
-void AnsichtN1::SchuelerMitKlassenwahl() {
+void AnsichtN1::Klassenwahl() {
     AktSchuelerID = 0;
     Q_EMIT PassbildGewuenscht();
     const Gitter& Tabelle = *Form->tblN1Noten;

@@ -33,18 +33,18 @@ class AnsichtN1 : public Ansicht, private Listenart {
     qint32 SchuelerID(qint32 Datum) const override { return Datum; }
     qint32 FachID(qint32 Datum) const override;
     bool NamenAendern(qint32 Datum, const QString& Name) override;
-    void Aktiv(bool Aktiv) override;
+    void AktivSetzen(bool Aktiv) override;
     void ZeileBetreten(qint32 Datum) override;
     void EingabezeileBetreten() override;
     void EingabeAbgebrochen() override;
-    bool AndersEingeben() override;
+    bool MitKlassenwahl() const override;
+    void Klassenwahl() override;
     void NeueZeile(const QString& Text) override;
 
     void KnoepfeVerbinden();
     void FachKombinationFuellen();
     void FachGewaehlt();
     void NotenlisteFachFuellen();
-    void SchuelerMitKlassenwahl();
     void NeuesFach();
     void FachLoeschen();
     void SchuelerLoeschen();

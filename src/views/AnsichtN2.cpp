@@ -21,7 +21,7 @@ AnsichtN2::AnsichtN2(QWidget* Eltern)
     connect(Liste, &Notenliste::HinweisGewuenscht, this, &Ansicht::HinweisGewuenscht);
     KombinationenVerbinden();
     KnoepfeVerbinden();
-    Aktiv(false);
+    AktivSetzen(false);
     Form->btN2FachLoeschen->setEnabled(false);
 }
 
@@ -148,7 +148,7 @@ bool AnsichtN2::NamenAendern(qint32 Datum, const QString& Name) {
     return FachNamenAendern(Datum, Name);
 }
 
-void AnsichtN2::Aktiv(bool Aktiv) {
+void AnsichtN2::AktivSetzen(bool Aktiv) {
     Form->tblN2Noten->setEnabled(Aktiv);
 }
 

@@ -33,11 +33,12 @@ class AnsichtN2 : public Ansicht, private Listenart {
     qint32 SchuelerID(qint32 Datum) const override;
     qint32 FachID(qint32 Datum) const override { return Datum; }
     bool NamenAendern(qint32 Datum, const QString& Name) override;
-    void Aktiv(bool Aktiv) override;
+    void AktivSetzen(bool Aktiv) override;
     void ZeileBetreten(qint32 Datum) override;
     void EingabezeileBetreten() override;
     void EingabeAbgebrochen() override;
-    bool AndersEingeben() override { return false; }
+    bool MitKlassenwahl() const override { return false; }
+    void Klassenwahl() override {}
     void NeueZeile(const QString& Text) override;
 
     void KombinationenVerbinden();

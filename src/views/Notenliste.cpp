@@ -4,6 +4,7 @@
 #include "controls/Gitter.h"
 #include "core/Definitionen.h"
 #include "core/Eingabezaehler.h"
+#include "core/FktAllgemein.h"
 #include "core/FktSpeziell.h"
 #include "grading/Gesamtnoten.h"
 #include "views/Fuellsperre.h"
@@ -34,8 +35,24 @@ Reihe<QString, 31> Notentexte(const Gitter& Tabelle, int Zeile) {
 }
 
 bool PunkteVonHand(const Notenzeile& Zeile, int Spalte) {
-    return Spalte <= Notenspalte::LetzterTest && Zeile.P[Spalte].startsWith(u'-');
+    return Spalte <= Notenspalte::LetzterTest && Zeile.P[Spalte].contains(u'-') &&
+           ZahlAusText(Zeile.P[Spalte]) < 0;
 }
+
+/// Looks up subjects row by row; the rows of one list mostly have the same.
+class Fachsuche {
+  public:
+    const Fach* operator()(qint32 ID) {
+        if (ID != Letzte)
+            Platz = FachIndex(ID);
+        Letzte = ID;
+        return Platz < 0 ? nullptr : &Datenbank.Faecher[Platz];
+    }
+
+  private:
+    qint32 Letzte = 0;
+    int Platz = -1;
+};
 
 /// A whole row of the list with its colours, the averages included.
 Gitterzeile NeueGitterzeile(const Notenlistenzeile& Quelle, const Gesamtregeln& Regeln) {
@@ -103,7 +120,7 @@ void Notenliste::Fuellen() {
     Feld->Verbergen();
     Art.EingabeAbgebrochen();
     const bool Gewaehlt = Art.Gewaehlt();
-    Art.Aktiv(Gewaehlt);
+    Art.AktivSetzen(Gewaehlt);
     if (!Gewaehlt) {
         Tabelle->ZeilenSetzen({});
         return;
@@ -131,38 +148,44 @@ void Notenliste::ZeilenSchreiben() {
     if (Art.NachNamen() && Tabelle->Rows() >= 5)
         Tabelle->Sortieren(Notenspalte::Name, ErsteZeile, Tabelle->Rows() - 2, Sortierart::TextAufsteigend);
     Tabelle->setCell(ErsteZeile, Notenspalte::Name);
-    HalbjahreAnzeigen();
+    HalbjahrtitelSchreiben();
+    Tabelle->setCellBackColor(Tabelle->Rows() - 1, Notenspalte::Name,
+                              Notenspaltenfarbe(Notenspalte::Name, {}));
+}
+
+/// The half-years in the header follow the first row; without one they stay as they are.
+void Notenliste::HalbjahrtitelSchreiben() {
+    const int Platz = FachIndex(Art.FachID(Tabelle->RowData(ErsteZeile)));
+    if (Platz < 0)
+        return;
+    const Halbjahresbeginn Beginn = HalbjahresbeginnVon(Datenbank.Faecher[Platz]);
+    for (int Spalte = 1; Spalte <= Notenspalte::LetzteNote; ++Spalte)
+        Tabelle->setTextMatrix(Halbjahrzeile, Spalte, Halbjahrestitel(Spalte, Beginn));
 }
 
 void Notenliste::HalbjahreAnzeigen() {
     const Fuellsperre Sperre;
-    const int Eingabezeile = Tabelle->Rows() - 1;
-    // The header follows the first row; without one it stays as it is.
-    const int Erstes = FachIndex(Art.FachID(Tabelle->RowData(ErsteZeile)));
-    if (Erstes >= 0) {
-        const Halbjahresbeginn Beginn = HalbjahresbeginnVon(Datenbank.Faecher[Erstes]);
-        for (int Spalte = 1; Spalte <= Notenspalte::LetzteNote; ++Spalte)
-            Tabelle->setTextMatrix(Halbjahrzeile, Spalte, Halbjahrestitel(Spalte, Beginn));
-    }
-    for (int Zeile = ErsteZeile; Zeile < Eingabezeile; ++Zeile) {
-        const int Platz = FachIndex(Art.FachID(Tabelle->RowData(Zeile)));
-        if (Platz < 0)
+    HalbjahrtitelSchreiben();
+    Fachsuche Suche;
+    for (int Zeile = ErsteZeile; Zeile <= Tabelle->Rows() - 2; ++Zeile) {
+        const Fach* Eines = Suche(Art.FachID(Tabelle->RowData(Zeile)));
+        if (!Eines)
             continue;
-        const Halbjahresbeginn Beginn = HalbjahresbeginnVon(Datenbank.Faecher[Platz]);
+        const Halbjahresbeginn Beginn = HalbjahresbeginnVon(*Eines);
         for (int Spalte = 0; Spalte < Notenspalte::Anzahl; ++Spalte)
             Tabelle->setCellBackColor(Zeile, Spalte, Notenspaltenfarbe(Spalte, Beginn));
     }
-    Tabelle->setCellBackColor(Eingabezeile, Notenspalte::Name, Notenspaltenfarbe(Notenspalte::Name, {}));
 }
 
 void Notenliste::GesamtnotenBerechnen() {
     const Gesamtregeln Regeln = AktuelleGesamtregeln();
+    Fachsuche Suche;
     for (int Zeile = ErsteZeile; Zeile <= Tabelle->Rows() - 2; ++Zeile) {
-        const int Platz = FachIndex(Art.FachID(Tabelle->RowData(Zeile)));
-        if (Platz < 0)
+        const Fach* Eines = Suche(Art.FachID(Tabelle->RowData(Zeile)));
+        if (!Eines)
             continue;
-        const Durchschnitte Beide = DurchschnitteBerechnen(
-            Notentexte(*Tabelle, Zeile), HalbjahresbeginnVon(Datenbank.Faecher[Platz]), Regeln);
+        const Durchschnitte Beide =
+            DurchschnitteBerechnen(Notentexte(*Tabelle, Zeile), HalbjahresbeginnVon(*Eines), Regeln);
         Tabelle->setTextMatrix(Zeile, Notenspalte::HalbjahrDurchschnitt, Beide.Halbjahr);
         Tabelle->setTextMatrix(Zeile, Notenspalte::JahrDurchschnitt, Beide.Jahr);
     }

@@ -25,12 +25,13 @@ class Listenart {
     virtual qint32 SchuelerID(qint32 Datum) const = 0;                ///< student of a row
     virtual qint32 FachID(qint32 Datum) const = 0;                    ///< subject of a row
     virtual bool NamenAendern(qint32 Datum, const QString& Name) = 0; ///< false: nothing to change
-    virtual void Aktiv(bool Aktiv) = 0;                               ///< enables what needs a selection
+    virtual void AktivSetzen(bool Aktiv) = 0;                         ///< enables what needs a selection
     virtual void ZeileBetreten(qint32 Datum) = 0;                     ///< a row of grades has become current
     virtual void EingabezeileBetreten() = 0;                          ///< the entry row has become current
     virtual void EingabeAbgebrochen() = 0;                            ///< Esc, or the list is filled anew
-    /// A new row is asked for in another way than by the box; false: the box is shown.
-    virtual bool AndersEingeben() = 0;
+    /// True if a new row needs more than a name: Klassenwahl then takes the place of the box.
+    virtual bool MitKlassenwahl() const = 0;
+    virtual void Klassenwahl() = 0;
     virtual void NeueZeile(const QString& Text) = 0; ///< a text was typed in the entry row
 };
 
@@ -64,6 +65,7 @@ class Notenliste : public QObject {
     void EingabeEinrichten();
     void TitelSchreiben();
     void ZeilenSchreiben();
+    void HalbjahrtitelSchreiben();
 
     void ZelleBetreten();
     bool AufErlaubteZelle();

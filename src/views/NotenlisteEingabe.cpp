@@ -66,8 +66,11 @@ bool Notenliste::AufErlaubteZelle() {
 void Notenliste::ZelleBetreten() {
     if (!AufErlaubteZelle())
         return;
-    if (InEingabezeile() && Art.AndersEingeben())
+    if (InEingabezeile() && Art.MitKlassenwahl()) {
+        Abbrechen();
+        Art.Klassenwahl();
         return;
+    }
     FeldZeigen();
     EingabeZaehler[Art.Zaehlerplatz()] = 0;
     if (InEingabezeile()) {
