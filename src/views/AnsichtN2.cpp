@@ -9,6 +9,8 @@
 #include "records/Loeschfragen.h"
 #include "records/Satzdialoge.h"
 
+#include <QLineEdit>
+
 #include "ui_AnsichtN2.h"
 
 AnsichtN2::AnsichtN2(QWidget* Eltern)
