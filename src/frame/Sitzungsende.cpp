@@ -1,5 +1,6 @@
 #include "frame/Sitzungsende.h"
 
+#include "assessments/Formulierungen.h"
 #include "core/Dokument.h"
 #include "core/Fehlerfang.h"
 #include "frame/frmMain.h"
@@ -67,7 +68,8 @@ void Sitzungsende::SitzungEndet(QSessionManager& Verwaltung) {
         return;
     }
     Ausfuehren([&Verwaltung] {
-        if (!FrageSpeichern())
+        const bool OhneFormulierungen = FormulierungenAbfrage();
+        if (!FrageSpeichern() || !OhneFormulierungen)
             Verwaltung.cancel();
     });
     Verwaltung.release();

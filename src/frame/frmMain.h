@@ -41,7 +41,6 @@ class frmMain : public QMainWindow, public Oberflaeche {
     void Beenden();       ///< mnuFileExit: both save prompts, then close unless one was cancelled
     void LeistenZeigen(); ///< tool bar and status bar follow their check marks
     void InfoZeigen();    ///< mnuHelpAbout
-    void DateiOeffnen(const QString& Pfad); ///< a file dropped on the window: as mnuFileOpen, without dialog
 
     /// Commits the edit in progress and stores window, parameters and settings, without a box: what every end
     /// of the program does first.
