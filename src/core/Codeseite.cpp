@@ -34,6 +34,45 @@ constexpr bool HatByte(char16_t Zeichen) {
     return Bytetafel[Zeichen] != 0 || Zeichen == 0;
 }
 
+// Nearly all text is its own number. Blocks of a fixed length without a branch inside are what the compiler
+// makes vector code of; a block with one of the 32 others goes through the table.
+constexpr qsizetype Block = 16;
+
+void Entschluesseln(const unsigned char* Quelle, char16_t* Ziel, qsizetype Anzahl) {
+    for (qsizetype i = 0; i < Anzahl; ++i)
+        Ziel[i] = Zeichentafel[Quelle[i]];
+}
+
+/// False if the block holds a byte that is not its own number; what was written then counts for nothing.
+bool BlockEntschluesseln(const unsigned char* __restrict Quelle, char16_t* __restrict Ziel) {
+    unsigned char Besonders = 0;
+    for (qsizetype i = 0; i < Block; ++i) {
+        Ziel[i] = Quelle[i];
+        Besonders |= static_cast<unsigned char>((Quelle[i] & 0xE0) == 0x80);
+    }
+    return Besonders == 0;
+}
+
+/// False if a character has no byte.
+bool Verschluesseln(const char16_t* Quelle, unsigned char* Ziel, qsizetype Anzahl) {
+    bool Fehlt = false;
+    for (qsizetype i = 0; i < Anzahl; ++i) {
+        Ziel[i] = Bytetafel[Quelle[i]];
+        Fehlt |= Ziel[i] == 0 && Quelle[i] != 0;
+    }
+    return !Fehlt;
+}
+
+/// As BlockEntschluesseln, the other way.
+bool BlockVerschluesseln(const char16_t* __restrict Quelle, unsigned char* __restrict Ziel) {
+    char16_t Besonders = 0;
+    for (qsizetype i = 0; i < Block; ++i) {
+        Ziel[i] = static_cast<unsigned char>(Quelle[i]);
+        Besonders |= static_cast<char16_t>((Quelle[i] > 0xFF) | ((Quelle[i] & 0xE0) == 0x80));
+    }
+    return Besonders == 0;
+}
+
 [[noreturn]] void ZeichenFehlt(const QString& Text) {
     for (const QChar Zeichen : Text)
         if (!HatByte(Zeichen.unicode()))
@@ -48,9 +87,13 @@ constexpr bool HatByte(char16_t Zeichen) {
 
 QString AusCodeseite(const char* Bytes, qsizetype Anzahl) {
     QString Text(Anzahl, Qt::Uninitialized);
+    const auto* Quelle = reinterpret_cast<const unsigned char*>(Bytes);
     auto* Ziel = reinterpret_cast<char16_t*>(Text.data());
-    for (qsizetype i = 0; i < Anzahl; ++i)
-        Ziel[i] = Zeichentafel[static_cast<unsigned char>(Bytes[i])];
+    qsizetype i = 0;
+    for (; i + Block <= Anzahl; i += Block)
+        if (!BlockEntschluesseln(Quelle + i, Ziel + i))
+            Entschluesseln(Quelle + i, Ziel + i, Block);
+    Entschluesseln(Quelle + i, Ziel + i, Anzahl - i);
     return Text;
 }
 
@@ -64,12 +107,13 @@ void InCodeseite(const QString& Text, QByteArray& Ziel) {
     const auto* Quelle = reinterpret_cast<const char16_t*>(Text.constData());
     Ziel.resize(Vorher + Anzahl);
     auto* Bytes = reinterpret_cast<unsigned char*>(Ziel.data() + Vorher);
-    bool Fehlt = false;
-    for (qsizetype i = 0; i < Anzahl; ++i) {
-        Bytes[i] = Bytetafel[Quelle[i]];
-        Fehlt |= Bytes[i] == 0 && Quelle[i] != 0;
-    }
-    if (Fehlt) {
+    bool Ganz = true;
+    qsizetype i = 0;
+    for (; i + Block <= Anzahl; i += Block)
+        if (!BlockVerschluesseln(Quelle + i, Bytes + i))
+            Ganz &= Verschluesseln(Quelle + i, Bytes + i, Block);
+    Ganz &= Verschluesseln(Quelle + i, Bytes + i, Anzahl - i);
+    if (!Ganz) {
         Ziel.resize(Vorher);
         ZeichenFehlt(Text);
     }

@@ -16,10 +16,20 @@ class Kurztexte {
     static constexpr std::size_t Laengster = 16;
     static constexpr int PlatzBits = 9;
 
+    /// The bytes of a short text as two numbers, padded with zeros, and how many there are.
+    struct Schluessel {
+        quint64 Anfang = 0;
+        quint64 Rest = 0;
+        std::size_t Anzahl = 0;
+
+        bool operator==(const Schluessel&) const = default;
+    };
     struct Platz {
-        std::array<char, Laengster> Bytes{}; ///< padded with zeros
-        std::size_t Anzahl = 0;              ///< 0: free
+        Schluessel Bytes; ///< none: free
         QString Text;
     };
+    static Schluessel Packen(std::string_view Bytes);
+    Platz& PlatzFuer(const Schluessel& Bytes);
+
     std::array<Platz, std::size_t(1) << PlatzBits> Plaetze;
 };

@@ -45,28 +45,16 @@ int NamenLesen(QList<QByteArray>* Namen) {
     }
 }
 
-/// Makes Ordner with all that is missing above it, for this user alone.
-int OrdnerAnlegen(const QByteArray& Ordner) {
-    const auto Anlegen = [&] {
-        return Beharrlich([&] { return Aufrufe().Mkdir(Ordner.constData(), 0700); }) == -1 ? errno : 0;
-    };
-    int Fehler = Anlegen();
-    if (Fehler == ENOENT && OrdnerVon(Ordner) != Ordner) {
-        Fehler = OrdnerAnlegen(OrdnerVon(Ordner));
-        if (Fehler == 0)
-            Fehler = Anlegen();
-    }
-    return Fehler == EEXIST ? 0 : Fehler;
-}
-
 /// The folder is there and closed to others.
 int OrdnerBereiten() {
+    const QByteArray Name = Rettungsordner();
     Deskriptor Ordner;
-    int Fehler = DateiOeffnen(Rettungsordner(), O_RDONLY | O_DIRECTORY, &Ordner);
+    int Fehler = DateiOeffnen(Name, O_RDONLY | O_DIRECTORY, &Ordner);
     if (Fehler == ENOENT) {
-        Fehler = OrdnerAnlegen(Rettungsordner());
+        // Asking for the name has tried to make it; this tells why that failed.
+        Fehler = Beharrlich([&] { return Aufrufe().Mkdir(Name.constData(), 0700); }) == -1 ? errno : 0;
         if (Fehler == 0)
-            Fehler = DateiOeffnen(Rettungsordner(), O_RDONLY | O_DIRECTORY, &Ordner);
+            Fehler = DateiOeffnen(Name, O_RDONLY | O_DIRECTORY, &Ordner);
     }
     struct stat Stand {};
     if (Fehler == 0)

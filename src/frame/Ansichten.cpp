@@ -2,6 +2,7 @@
 
 #include "controls/Ansicht.h"
 #include "core/Reihe.h"
+#include "views/AnsichtS.h"
 
 #include <QString>
 
@@ -25,7 +26,7 @@ struct Ansichtseintrag {
 };
 
 constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
-    {"Schüler- und Fächerliste", Neue<LeereAnsicht>, true},
+    {"Schüler- und Fächerliste", Neue<AnsichtS>, true},
     {"Probenauswertung", Neue<LeereAnsicht>, false},
     {"Notenliste eines Faches", Neue<LeereAnsicht>, true},
     {"Notenliste eines Schülers", Neue<LeereAnsicht>, false},

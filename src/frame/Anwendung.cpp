@@ -1,7 +1,7 @@
 #include "frame/Anwendung.h"
 
+#include "core/Fehlerfang.h"
 #include "core/Zahlen.h"
-#include "frame/Fehlerschutz.h"
 #include "frame/Sinnbilder.h"
 
 #include <QTranslator>

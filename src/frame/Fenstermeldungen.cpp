@@ -129,7 +129,7 @@ QString BoxText(const QString& Text) {
     return Ergebnis;
 }
 
-QString MitEndung(const QString& Pfad, const QString& Muster) {
+QString EndungErgaenzt(const QString& Pfad, const QString& Muster) {
     static const QRegularExpression Endung(QStringLiteral("\\.[A-Za-z][A-Za-z0-9]{1,4}$"));
     const qsizetype Punkt = Muster.lastIndexOf(u'.');
     if (Punkt < 0 || Muster.endsWith(u'*') || Pfad.contains(Endung))
@@ -193,6 +193,6 @@ std::optional<Dateiwahl> Fenstermeldungen::Speichern(const Dateiwunsch& Wunsch) 
     Dialog.setFileMode(QFileDialog::AnyFile);
     auto Wahl = DateiWaehlen(Dialog, Wunsch, QStringLiteral("&Speichern"));
     if (Wahl && !Wunsch.Filter.isEmpty())
-        Wahl->Pfad = MitEndung(Wahl->Pfad, Wunsch.Filter.at(Wahl->FilterIndex - 1).Muster);
+        Wahl->Pfad = EndungErgaenzt(Wahl->Pfad, Wunsch.Filter.at(Wahl->FilterIndex - 1).Muster);
     return Wahl;
 }

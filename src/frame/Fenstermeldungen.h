@@ -18,7 +18,7 @@ QString BoxText(const QString& Text);
 
 /// The name with the ending of the filter's pattern ("*.txt") if it has none of its own. An ending is two to
 /// five letters or digits behind the last dot, a letter first: "klasse 3.b" has none.
-QString MitEndung(const QString& Pfad, const QString& Muster);
+QString EndungErgaenzt(const QString& Pfad, const QString& Muster);
 
 /// A filter as Qt's file dialog wants it: "Notendatenbank (*.txt)".
 QString FilterText(const Dateifilter& Filter);

@@ -1,7 +1,7 @@
 #include "frame/Menue.h"
 
+#include "assessments/Formulierungen.h"
 #include "core/Dokument.h"
-#include "core/Einstellungen.h"
 #include "frame/Hilfe.h"
 #include "frame/Zwischenablage.h"
 #include "frame/frmMain.h"
@@ -33,10 +33,7 @@ constexpr Menueintrag Menuebaum[] = {
      .Ablauf = [](frmMain&) { SicherheitskopieErstellen(); }},
     {.Name = "mnuFileRestore",
      .Text = "&Wiederherstellen aus Sicherheitskopie",
-     .Ablauf =
-         [](frmMain&) {
-             DatenbankWiederherstellen(EinstellungLesen(QStringLiteral("AutoDatei"), Unbenannt));
-         }},
+     .Ablauf = [](frmMain&) { DatenbankWiederherstellen(AutoDatei()); }},
     {.Art = Strich, .Name = "mnuFileBar4"},
     {.Name = "mnuFilePrintPreview", .Text = "Seiten&ansicht"},
     {.Name = "mnuFilePageSetup", .Text = "Drucker ein&richten..."},
@@ -79,15 +76,27 @@ constexpr Menueintrag Menuebaum[] = {
     {.Art = Schalter, .Name = "mnuViewPassbild", .Text = "&Passbild"},
 
     {.Art = Menue, .Name = "mnuFormulierungen", .Text = "Beurteilungs&formulierungen", .Sichtbar = false},
-    {.Name = "mnuFormulierungenNeu", .Text = "&Neu"},
-    {.Name = "mnuFormulierungenOpen", .Text = "Ö&ffnen..."},
-    {.Name = "mnuFormulierungenHinzufuegen", .Text = "&Hinzufügen..."},
+    {.Name = "mnuFormulierungenNeu", .Text = "&Neu", .Ablauf = [](frmMain&) { FormulierungenNeu(); }},
+    {.Name = "mnuFormulierungenOpen",
+     .Text = "Ö&ffnen...",
+     .Ablauf = [](frmMain&) { FormulierungenOeffnen(); }},
+    {.Name = "mnuFormulierungenHinzufuegen",
+     .Text = "&Hinzufügen...",
+     .Ablauf = [](frmMain&) { FormulierungenHinzufuegen(); }},
     {.Art = Strich, .Name = "mnuBBar1"},
-    {.Name = "mnuFormulierungenSave", .Text = "&Speichern"},
-    {.Name = "mnuFormulierungenSaveAs", .Text = "Speichern &unter..."},
+    {.Name = "mnuFormulierungenSave",
+     .Text = "&Speichern",
+     .Ablauf = [](frmMain&) { FormulierungenSpeichern(); }},
+    {.Name = "mnuFormulierungenSaveAs",
+     .Text = "Speichern &unter...",
+     .Ablauf = [](frmMain&) { FormulierungenSpeichernUnter(); }},
     {.Art = Strich, .Name = "mnuBBar2"},
-    {.Name = "mnuFormulierungenBackup", .Text = "Sicherheits&kopie erstellen"},
-    {.Name = "mnuFormulierungenRestore", .Text = "&Wiederherstellen aus Sicherheitskopie"},
+    {.Name = "mnuFormulierungenBackup",
+     .Text = "Sicherheits&kopie erstellen",
+     .Ablauf = [](frmMain&) { FormulierungenSicherheitskopie(); }},
+    {.Name = "mnuFormulierungenRestore",
+     .Text = "&Wiederherstellen aus Sicherheitskopie",
+     .Ablauf = [](frmMain&) { FormulierungenWiederherstellen(); }},
 
     {.Art = Menue, .Name = "mnumnuExtras", .Text = "E&xtras"},
     {.Name = "mnuExtrasOptionen", .Text = "&Optionen..."},

@@ -1,7 +1,8 @@
 #include "frame/Sitzungsende.h"
 
+#include "assessments/Formulierungen.h"
 #include "core/Dokument.h"
-#include "frame/Fehlerschutz.h"
+#include "core/Fehlerfang.h"
 #include "frame/frmMain.h"
 
 #include <QGuiApplication>
@@ -58,7 +59,7 @@ Sitzungsende::~Sitzungsende() {
 }
 
 void Sitzungsende::OhneFrageSichern() {
-    Geschuetzt([this] { Fenster.ZustandSichern(); });
+    Ausfuehren([this] { Fenster.ZustandSichern(); });
 }
 
 void Sitzungsende::SitzungEndet(QSessionManager& Verwaltung) {
@@ -66,8 +67,9 @@ void Sitzungsende::SitzungEndet(QSessionManager& Verwaltung) {
         OhneFrageSichern();
         return;
     }
-    Geschuetzt([&Verwaltung] {
-        if (!FrageSpeichern())
+    Ausfuehren([&Verwaltung] {
+        const bool OhneFormulierungen = FormulierungenAbfrage();
+        if (!FrageSpeichern() || !OhneFormulierungen)
             Verwaltung.cancel();
     });
     Verwaltung.release();

@@ -1,3 +1,4 @@
+#include "core/Dateischutz.h"
 #include "frame/Anwendung.h"
 #include "frame/Fenstermeldungen.h"
 #include "frame/Programmstart.h"
@@ -5,6 +6,7 @@
 #include "frame/frmMain.h"
 
 int main(int argc, char** argv) {
+    DateischutzVorbereiten();
     Anwendung Programm(argc, argv);
     Fenstermeldungen Boxen;
     MeldungsdienstSetzen(&Boxen);

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 
 namespace {
@@ -110,6 +111,11 @@ void AmAktiven(Aktion Tat) {
         Tat(*Liste);
 }
 
+bool IstAblagetaste(QKeyCombination Taste) {
+    return Taste == (Qt::CTRL | Qt::Key_X) || Taste == (Qt::CTRL | Qt::Key_C) ||
+           Taste == (Qt::CTRL | Qt::Key_V);
+}
+
 } // namespace
 
 void Kopieren() {
@@ -126,30 +132,43 @@ void Einfuegen() {
     AmAktiven([](auto& Feld) { AusAblage(Feld); });
 }
 
-Zwischenablagetasten::Zwischenablagetasten(QWidget* Fenster)
+Zwischenablagewaechter::Zwischenablagewaechter(QWidget* Fenster)
     : QObject(Fenster) {
-    connect(qApp, &QApplication::focusChanged, this, &Zwischenablagetasten::FokusGewechselt);
+    connect(qApp, &QApplication::focusChanged, this, &Zwischenablagewaechter::FokusGewechselt);
 }
 
-void Zwischenablagetasten::FokusGewechselt(QWidget* Alt, QWidget* Neu) {
+void Zwischenablagewaechter::FokusGewechselt(QWidget* Alt, QWidget* Neu) {
     if (Alt)
         Alt->removeEventFilter(this);
-    if (Neu && Neu->window() == parent())
-        Neu->installEventFilter(this);
+    if (!Neu || Neu->window() != parent())
+        return;
+    Neu->installEventFilter(this);
+    if (Verlassenes && Verlassenes == Neu)
+        Verlassenes->setSelection(Anfang, Laenge);
+    if (!qobject_cast<QMenuBar*>(Neu))
+        Verlassenes = nullptr;
 }
 
-bool Zwischenablagetasten::eventFilter(QObject* Ziel, QEvent* Ereignis) {
-    if (Ereignis->type() == QEvent::ShortcutOverride) {
-        const auto* Taste = static_cast<QKeyEvent*>(Ereignis);
-        const int Kombination = Taste->keyCombination().toCombined();
-        if (Kombination == (Qt::CTRL | Qt::Key_X).toCombined() ||
-            Kombination == (Qt::CTRL | Qt::Key_C).toCombined() ||
-            Kombination == (Qt::CTRL | Qt::Key_V).toCombined()) {
-            Ereignis->ignore();
-            return true;
-        }
+bool Zwischenablagewaechter::eventFilter(QObject* Ziel, QEvent* Ereignis) {
+    if (Ereignis->type() == QEvent::ShortcutOverride &&
+        IstAblagetaste(static_cast<QKeyEvent*>(Ereignis)->keyCombination())) {
+        Ereignis->ignore();
+        return true;
+    }
+    if (Ereignis->type() == QEvent::FocusOut &&
+        static_cast<QFocusEvent*>(Ereignis)->reason() == Qt::MenuBarFocusReason) {
+        if (auto* Feld = qobject_cast<QLineEdit*>(Ziel))
+            AuswahlMerken(Feld);
     }
     return QObject::eventFilter(Ziel, Ereignis);
+}
+
+void Zwischenablagewaechter::AuswahlMerken(QLineEdit* Feld) {
+    Verlassenes = Feld->hasSelectedText() ? Feld : nullptr;
+    if (Verlassenes) {
+        Anfang = Feld->selectionStart();
+        Laenge = Feld->selectionLength();
+    }
 }
 
 #include "moc_Zwischenablage.cpp"

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QLineEdit>
 #include <QObject>
+#include <QPointer>
 
 // The clipboard commands work on the control that has the focus, by its kind: text box, combo box, picture
 // box, list box. A control of no such kind is left alone.
@@ -13,17 +15,23 @@ void Ausschneiden();
 /// is added (list box).
 void Einfuegen();
 
-/// Lets the keys Ctrl+X, Ctrl+C and Ctrl+V of a window reach its menu: Qt's text boxes would take them first
-/// and copy by rules of their own. Follows the focus inside the window.
-class Zwischenablagetasten : public QObject {
+/// Keeps what the clipboard commands need of a window's active control: the keys Ctrl+X, Ctrl+C and Ctrl+V
+/// reach the menu, where Qt's text boxes would copy by rules of their own; and a text box whose menu is
+/// opened by the keyboard keeps its selection.
+class Zwischenablagewaechter : public QObject {
     Q_OBJECT
 
   public:
-    explicit Zwischenablagetasten(QWidget* Fenster);
+    explicit Zwischenablagewaechter(QWidget* Fenster);
 
   protected:
     bool eventFilter(QObject* Ziel, QEvent* Ereignis) override;
 
   private:
     void FokusGewechselt(QWidget* Alt, QWidget* Neu);
+    void AuswahlMerken(QLineEdit* Feld);
+
+    QPointer<QLineEdit> Verlassenes; ///< text box that the menu bar has taken the focus from
+    int Anfang = 0;                  ///< its selection
+    int Laenge = 0;
 };

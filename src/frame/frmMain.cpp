@@ -1,5 +1,6 @@
 #include "frame/frmMain.h"
 
+#include "assessments/Formulierungen.h"
 #include "controls/Ansicht.h"
 #include "controls/Kombinationsfeld.h"
 #include "core/Datenbankdatei.h"
@@ -7,10 +8,11 @@
 #include "core/Dokument.h"
 #include "core/Eingabezaehler.h"
 #include "core/Einstellungen.h"
+#include "core/Fehlerfang.h"
 #include "core/Parameterdatei.h"
+#include "core/Rettung.h"
 #include "core/Zahlen.h"
 #include "frame/Ansichten.h"
-#include "frame/Fehlerschutz.h"
 #include "frame/Fensterlage.h"
 #include "frame/Hinweiszeile.h"
 #include "frame/Menue.h"
@@ -54,9 +56,13 @@ void frmMain::Laden() {
     Datenbank.AnzSchueler = Datenbank.AnzKlassen = Datenbank.AnzFaecher = 0;
     Datenbank.AnzNoten = Datenbank.AnzZSchueler = 0;
     DatenGeaendert = FormulierungenGeaendert = false;
+    RettungenAnbieten(); // before any file is read: the parameter file may be one of them
     LadeParameter();
+    // Before any file is loaded: what a broken-off save has left may be newer than the file.
+    Ausfuehren(RettungenAnbieten);
+    Ausfuehren(FormulierungenBeimStartLaden);
     tabAnsicht->setCurrentIndex(Reiter::P);
-    Geschuetzt([this] { LetzteDateiLaden(); });
+    Ausfuehren([this] { LetzteDateiLaden(); });
     cbPassbild->setChecked(EinstellungLesen(QStringLiteral("Passbild"), QStringLiteral("0")) ==
                            QStringLiteral("1"));
     FormularBereit = true;
@@ -64,7 +70,7 @@ void frmMain::Laden() {
 }
 
 void frmMain::LetzteDateiLaden() {
-    const QString Pfad = EinstellungLesen(QStringLiteral("AutoDatei"), Unbenannt);
+    const QString Pfad = AutoDatei();
     const bool Automatisch =
         WahrheitLesen(EinstellungLesen(QStringLiteral("AutoLaden"), QStringLiteral("True")));
     if (Automatisch && Pfad != Unbenannt) {
@@ -107,7 +113,7 @@ void frmMain::JahrgangGewechselt() {
     Datenbank.AktJahr = cbJahrgang->currentText();
     AktSchuelerID = AktFachID = AktProbe = 0;
     AktKlasse.clear();
-    Geschuetzt([this] { AnsichtAktualisieren(); });
+    Ausfuehren([this] { AnsichtAktualisieren(); });
 }
 
 void frmMain::AnsichtAktualisieren() {
@@ -125,29 +131,21 @@ void frmMain::EintragErlauben(const QString& Name, bool Erlaubt) {
             findChild<QAction*>(Name)->setEnabled(Erlaubt && Eintrag.Ablauf);
 }
 
-void frmMain::Ausfuehren(const Menueintrag& Eintrag) {
+void frmMain::BefehlAusfuehren(const Menueintrag& Eintrag) {
     if (Eintrag.Zuvor == Fokus::Nehmen)
         FokusNehmen();
-    Geschuetzt([this, &Eintrag] { Eintrag.Ablauf(*this); });
+    Ausfuehren([this, &Eintrag] { Eintrag.Ablauf(*this); });
 }
 
 void frmMain::Beenden() {
-    // Further prompts of the end of the program come here; each is shown, whatever the answers before.
-    if (FrageSpeichern())
+    // Both prompts are shown, whatever the answer to the first.
+    const bool OhneFormulierungen = FormulierungenAbfrage();
+    if (FrageSpeichern() && OhneFormulierungen)
         close();
 }
 
 void frmMain::InfoZeigen() {
     frmAbout(this).exec();
-}
-
-void frmMain::DateiOeffnen(const QString& Pfad) {
-    FokusNehmen();
-    if (!FrageSpeichern())
-        return;
-    if (!LadeDatenbank(Pfad))
-        DatenbankWiederherstellen(Pfad);
-    AnsichtAktualisieren();
 }
 
 void frmMain::Hinweis(const QString& Text) {
@@ -156,22 +154,23 @@ void frmMain::Hinweis(const QString& Text) {
 
 void frmMain::Tick() {
     UhrZeigen();
-    Geschuetzt(EingabezaehlerTick);
+    Ausfuehren(EingabezaehlerTick);
 }
 
 void frmMain::ZustandSichern() {
     EinstellungSchreiben(QStringLiteral("Passbild"),
                          cbPassbild->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
     FokusNehmen();
-    Geschuetzt(SpeichereParameter);
+    Ausfuehren(SpeichereParameter);
     FensterlageSchreiben(*this);
 }
 
 void frmMain::closeEvent(QCloseEvent* Ereignis) {
     timTimer->stop();
-    Geschuetzt([this] { ZustandSichern(); });
+    Ausfuehren([this] { ZustandSichern(); });
     // At this point the end is settled: an answer "Abbrechen" leaves the changes unsaved.
-    Geschuetzt([] { FrageSpeichern(); });
+    Ausfuehren([] { FrageSpeichern(); });
+    Ausfuehren([] { FormulierungenAbfrage(); });
     const auto Fenster = QApplication::topLevelWidgets();
     for (auto Eines = Fenster.crbegin(); Eines != Fenster.crend(); ++Eines)
         if (*Eines != this && (*Eines)->isVisible())
@@ -199,7 +198,7 @@ void frmMain::dropEvent(QDropEvent* Ereignis) {
     const QString Pfad = GezogeneDatei(*Ereignis->mimeData());
     Ereignis->acceptProposedAction();
     // The drag must end before a prompt comes up.
-    QTimer::singleShot(0, this, [this, Pfad] { Geschuetzt([this, Pfad] { DateiOeffnen(Pfad); }); });
+    QTimer::singleShot(0, this, [Pfad] { DatenbankOeffnen(Pfad); });
 }
 
 bool frmMain::event(QEvent* Ereignis) {

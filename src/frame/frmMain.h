@@ -13,6 +13,7 @@ class QCheckBox;
 class QLabel;
 class QTabWidget;
 class QTimer;
+struct Leisteneintrag;
 struct Menueintrag;
 
 /// The main window: five tabs, menus, tool bar, status bar, the timer of the delayed commits. It builds
@@ -40,7 +41,6 @@ class frmMain : public QMainWindow, public Oberflaeche {
     void Beenden();       ///< mnuFileExit: both save prompts, then close unless one was cancelled
     void LeistenZeigen(); ///< tool bar and status bar follow their check marks
     void InfoZeigen();    ///< mnuHelpAbout
-    void DateiOeffnen(const QString& Pfad); ///< a file dropped on the window: as mnuFileOpen, without dialog
 
     /// Commits the edit in progress and stores window, parameters and settings, without a box: what every end
     /// of the program does first.
@@ -56,10 +56,13 @@ class frmMain : public QMainWindow, public Oberflaeche {
     void MenueBauen();
     void EintragBauen(const Menueintrag& Eintrag);
     void LeisteBauen();
+    void KnopfBauen(const Leisteneintrag& Eintrag);
+    void JahrgangBauen();
     void StatuszeileBauen();
+    QLabel* FeldBauen(const QString& Name, const QString& Bedeutung);
     void ReiterBauen();
     QWidget* AnsichtBauen(int Nummer);
-    void Ausfuehren(const Menueintrag& Eintrag);
+    void BefehlAusfuehren(const Menueintrag& Eintrag);
     void EintragErlauben(const QString& Name, bool Erlaubt);
     void Hinweis(const QString& Text);
     void JahrgangGewechselt();

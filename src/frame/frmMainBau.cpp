@@ -4,9 +4,9 @@
 #include "controls/Kombinationsfeld.h"
 #include "core/Datum.h"
 #include "core/Definitionen.h"
+#include "core/Fehlerfang.h"
 #include "core/Uhr.h"
 #include "frame/Ansichten.h"
-#include "frame/Fehlerschutz.h"
 #include "frame/Hinweiszeile.h"
 #include "frame/Menue.h"
 #include "frame/Reiterfeld.h"
@@ -30,7 +30,7 @@ void frmMain::ReiterBauen() {
     setCentralWidget(tabAnsicht);
     connect(tabAnsicht, &QTabWidget::currentChanged, this, [this] {
         if (FormularBereit)
-            Geschuetzt([this] { AnsichtAktualisieren(); });
+            Ausfuehren([this] { AnsichtAktualisieren(); });
     });
 }
 
@@ -62,7 +62,7 @@ void frmMain::MenueBauen() {
         Menue->setObjectName(QString::fromUtf8(Eintrag.Name));
         Menue->menuAction()->setVisible(Eintrag.Sichtbar);
     }
-    new Zwischenablagetasten(this);
+    new Zwischenablagewaechter(this);
 }
 
 void frmMain::EintragBauen(const Menueintrag& Eintrag) {
@@ -75,7 +75,7 @@ void frmMain::EintragBauen(const Menueintrag& Eintrag) {
     Aktion->setVisible(Eintrag.Sichtbar);
     Aktion->setEnabled(Eintrag.Frei && (Eintrag.Ablauf || Eintrag.Art == Eintragsart::Strich));
     if (Eintrag.Ablauf)
-        connect(Aktion, &QAction::triggered, this, [this, &Eintrag] { Ausfuehren(Eintrag); });
+        connect(Aktion, &QAction::triggered, this, [this, &Eintrag] { BefehlAusfuehren(Eintrag); });
     menuBar()->actions().constLast()->menu()->addAction(Aktion);
 }
 
@@ -86,25 +86,32 @@ void frmMain::LeisteBauen() {
     // Shown and hidden by mnuViewToolbar alone.
     tbToolBar->setContextMenuPolicy(Qt::PreventContextMenu);
     setContextMenuPolicy(Qt::PreventContextMenu);
-    for (const Leisteneintrag& Eintrag : Leisteneintraege()) {
-        if (*Eintrag.Name == '\0') {
-            tbToolBar->addSeparator();
-            continue;
-        }
-        const QString Name = QString::fromUtf8(Eintrag.Name);
-        QAction* Aktion = tbToolBar->addAction(Sinnbild(Name.toLower()), QString::fromUtf8(Eintrag.Text));
-        Aktion->setObjectName(Name);
-        const QString Befehl = QString::fromUtf8(Eintrag.Befehl);
-        auto* Vorbild = Befehl.isEmpty() ? nullptr : findChild<QAction*>(Befehl);
-        Aktion->setEnabled(Vorbild && Vorbild->isEnabled());
-        if (Vorbild)
-            connect(Aktion, &QAction::triggered, Vorbild, &QAction::trigger);
-    }
+    for (const Leisteneintrag& Eintrag : Leisteneintraege())
+        KnopfBauen(Eintrag);
     tbToolBar->addSeparator();
     cbPassbild = new QCheckBox(QStringLiteral("Passbilder anzeigen"));
     cbPassbild->setObjectName(QStringLiteral("cbPassbild"));
     cbPassbild->setEnabled(findChild<QAction*>(QStringLiteral("mnuViewPassbild"))->isEnabled());
     tbToolBar->addWidget(cbPassbild);
+    JahrgangBauen();
+}
+
+void frmMain::KnopfBauen(const Leisteneintrag& Eintrag) {
+    if (*Eintrag.Name == '\0') {
+        tbToolBar->addSeparator();
+        return;
+    }
+    const QString Name = QString::fromUtf8(Eintrag.Name);
+    QAction* Aktion = tbToolBar->addAction(Sinnbild(Name.toLower()), QString::fromUtf8(Eintrag.Text));
+    Aktion->setObjectName(Name);
+    const QString Befehl = QString::fromUtf8(Eintrag.Befehl);
+    auto* Vorbild = Befehl.isEmpty() ? nullptr : findChild<QAction*>(Befehl);
+    Aktion->setEnabled(Vorbild && Vorbild->isEnabled());
+    if (Vorbild)
+        connect(Aktion, &QAction::triggered, Vorbild, &QAction::trigger);
+}
+
+void frmMain::JahrgangBauen() {
     cbJahrgang = new Kombinationsfeld;
     cbJahrgang->setObjectName(QStringLiteral("cbJahrgang"));
     cbJahrgang->setEditable(false);
@@ -123,15 +130,18 @@ void frmMain::StatuszeileBauen() {
     HinweisFeld->setObjectName(QStringLiteral("sbStatusBar_1"));
     HinweisFeld->setAccessibleName(QStringLiteral("Status"));
     sbStatusBar->addWidget(HinweisFeld, 1);
-    DatumFeld = new QLabel;
-    DatumFeld->setObjectName(QStringLiteral("sbStatusBar_2"));
-    DatumFeld->setAccessibleName(QStringLiteral("Datum"));
-    sbStatusBar->addPermanentWidget(DatumFeld);
-    ZeitFeld = new QLabel;
-    ZeitFeld->setObjectName(QStringLiteral("sbStatusBar_3"));
-    ZeitFeld->setAccessibleName(QStringLiteral("Uhrzeit"));
-    sbStatusBar->addPermanentWidget(ZeitFeld);
+    DatumFeld = FeldBauen(QStringLiteral("sbStatusBar_2"), QStringLiteral("Datum"));
+    ZeitFeld = FeldBauen(QStringLiteral("sbStatusBar_3"), QStringLiteral("Uhrzeit"));
     UhrZeigen();
+}
+
+QLabel* frmMain::FeldBauen(const QString& Name, const QString& Bedeutung) {
+    auto* Feld = new QLabel;
+    Feld->setObjectName(Name);
+    Feld->setAccessibleName(Bedeutung);
+    Feld->setTextFormat(Qt::PlainText);
+    statusBar()->addPermanentWidget(Feld);
+    return Feld;
 }
 
 void frmMain::UhrZeigen() {

@@ -6,6 +6,12 @@
 
 #include <cmath>
 
+const QString MeldungOhneGesamtpunktzahl =
+    QStringLiteral("Sie müssen erst die Gesamtpunktzahl festlegen, damit die Verteilung automatisch bestimmt "
+                   "werden kann!");
+const QString MeldungGaussOhneGesamtpunktzahl = QStringLiteral(
+    "Sie müssen erst Gesamtpunktzahl festlegen, damit die Gaußverteilung automatisch bestimmt werden kann!");
+
 QStringList EigeneGrenzen(qint16 Gesamt, const Anteile& Prozente, int HoechsteNote) {
     QStringList Grenzen;
     if (Gesamt <= 0)

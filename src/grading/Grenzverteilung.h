@@ -43,3 +43,7 @@ Grenzschritt BesserSchritt(const Probenmassstab& Massstab, int HoechsteNote);
 /// included and half a point preferred; of equal gaps the one of the worse grade. The gap below the last
 /// boundary takes no part. Nothing moves if no gap exceeds half a point.
 Grenzschritt SchlechterSchritt(const Probenmassstab& Massstab, int HoechsteNote);
+
+/// What the automatic ways say without a usable total: two wordings.
+extern const QString MeldungOhneGesamtpunktzahl;
+extern const QString MeldungGaussOhneGesamtpunktzahl;

@@ -51,6 +51,8 @@ AnsichtS::AnsichtS(QWidget* Eltern)
     connect(Form->btSSchuelerLoeschen, &QPushButton::clicked, this, &AnsichtS::SchuelerLoeschen);
     connect(Form->btSNeueKlasse, &QPushButton::clicked, this, &AnsichtS::NeueKlasse);
     connect(Form->btSKlasseLoeschen, &QPushButton::clicked, this, &AnsichtS::KlasseLoeschen);
+    // There is nothing yet that it could open.
+    Form->btSAlteKlassen->setEnabled(false);
     AnsichtSAktiv(false);
 }
 

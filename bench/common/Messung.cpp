@@ -1,0 +1,51 @@
+#include "common/Messung.h"
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <cstdio>
+
+double Median(std::vector<double> Werte) {
+    std::sort(Werte.begin(), Werte.end());
+    const std::size_t Mitte = Werte.size() / 2;
+    return Werte.size() % 2 == 1 ? Werte[Mitte] : (Werte[Mitte - 1] + Werte[Mitte]) / 2;
+}
+
+double Dauer(const std::function<void()>& Tun) {
+    QElapsedTimer Uhr;
+    Uhr.start();
+    Tun();
+    return static_cast<double>(Uhr.nsecsElapsed()) / 1e9;
+}
+
+double Messreihe::Verhaeltnis() const {
+    std::vector<double> Verhaeltnisse;
+    for (std::size_t i = 0; i < Eigene.size(); ++i)
+        Verhaeltnisse.push_back(Eigene[i] / Referenz[i]);
+    return Median(Verhaeltnisse);
+}
+
+Messreihe Vergleichen(const std::function<double()>& Eigene, const std::function<double()>& Referenz) {
+    Eigene();
+    Referenz();
+    Messreihe Reihe;
+    for (int i = 0; i < Runden11; ++i) {
+        const bool EigeneZuerst = i % 2 == 0;
+        if (EigeneZuerst)
+            Reihe.Eigene.push_back(Eigene());
+        Reihe.Referenz.push_back(Referenz());
+        if (!EigeneZuerst)
+            Reihe.Eigene.push_back(Eigene());
+    }
+    return Reihe;
+}
+
+void Zeile(const QString& Name, double Verhaeltnis, double Ziel, double Grenze) {
+    std::printf("%s\t%.3f\t%.2f\t%.2f\n", qPrintable(Name), Verhaeltnis, Ziel, Grenze);
+    std::fflush(stdout);
+}
+
+void Anmerkung(const QString& Text) {
+    std::printf("# %s\n", qPrintable(Text));
+    std::fflush(stdout);
+}

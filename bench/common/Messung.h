@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+// What all benchmarks share: interleaved rounds and the median of the ratio.
+
+inline constexpr int Runden11 = 11;
+
+double Median(std::vector<double> Werte);
+
+/// Seconds that Tun takes.
+double Dauer(const std::function<void()>& Tun);
+
+/// Times of both sides of a comparison, round by round.
+struct Messreihe {
+    std::vector<double> Eigene;
+    std::vector<double> Referenz;
+
+    double Verhaeltnis() const; ///< median of the ratios of the rounds
+};
+
+/// Runs both sides in turn, 11 rounds after one that does not count; each gives its seconds. Which side
+/// begins changes from round to round.
+Messreihe Vergleichen(const std::function<double()>& Eigene, const std::function<double()>& Referenz);
+
+/// Prints the line of the table.
+void Zeile(const QString& Name, double Verhaeltnis, double Ziel, double Grenze);
+/// A remark to the line before, such as the times behind a ratio; begins with "#" and stands outside the
+/// table.
+void Anmerkung(const QString& Text);

@@ -1,0 +1,145 @@
+#include "grading/Probentabelle.h"
+
+#include "core/Definitionen.h"
+#include "core/FktAllgemein.h"
+#include "core/FktSpeziell.h"
+#include "core/Zahlen.h"
+#include "records/Aendern.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+bool TextSetzen(QString& Ziel, const QString& Neu) {
+    if (Ziel == Neu)
+        return false;
+    Ziel = Neu;
+    DatenGeaendert = true;
+    return true;
+}
+
+/// Where points and grade of a participant are stored; nullptr if nobody has the ID.
+struct Eintrag {
+    QString* Punkte = nullptr;
+    QString* Note = nullptr;
+};
+
+Eintrag ZSchuelerEintrag(qint32 ID) {
+    if (ID < 0 || ID >= Datenbank.AnzZSchueler)
+        return {};
+    return {&Datenbank.ZSchueler[ID].Punkte, &Datenbank.ZSchueler[ID].Note};
+}
+
+Eintrag EintragDer(Notenzeile& Zeile, int Probe_ID) {
+    return {&Zeile.P[Probe_ID], &Zeile.N[Probe_ID]};
+}
+
+Eintrag EintragSuchen(qint32 ID, qint32 Fach_ID, int Probe_ID) {
+    if (IstZSchueler(ID))
+        return ZSchuelerEintrag(ID);
+    const int Index = NotenIndex(ID, Fach_ID);
+    return Index < 0 ? Eintrag{} : EintragDer(Datenbank.Noten[Index], Probe_ID);
+}
+
+/// The rows of a subject by student, for one run over many of them. The first row of a student counts.
+QHash<qint32, int> NotenzeilenDesFachs(qint32 Fach_ID) {
+    QHash<qint32, int> Zeilen;
+    for (int i = 0; i < Datenbank.AnzNoten; ++i) {
+        const Notenzeile& Zeile = Datenbank.Noten[i];
+        if (Zeile.Fach_ID == Fach_ID && !Zeilen.contains(Zeile.Schueler_ID))
+            Zeilen.insert(Zeile.Schueler_ID, i);
+    }
+    return Zeilen;
+}
+
+/// Writes the names behind the IDs with one run over the students.
+void NamenEintragen(std::vector<Probenteilnehmer>& Teilnehmer) {
+    constexpr int Offen = -1;
+    QHash<qint32, int> Plaetze;
+    Plaetze.reserve(static_cast<qsizetype>(Teilnehmer.size()));
+    for (const Probenteilnehmer& Einer : Teilnehmer)
+        Plaetze.insert(Einer.ID, Offen);
+    qsizetype Fehlend = Plaetze.size();
+    for (int i = 0; i < Datenbank.AnzSchueler && Fehlend > 0; ++i) {
+        const auto Stelle = Plaetze.find(Datenbank.Schueler[i].ID);
+        if (Stelle == Plaetze.end() || *Stelle != Offen)
+            continue;
+        *Stelle = i;
+        --Fehlend;
+    }
+    for (Probenteilnehmer& Einer : Teilnehmer)
+        if (const int Platz = Plaetze.value(Einer.ID); Platz != Offen)
+            Einer.Name = Datenbank.Schueler[Platz].Name;
+}
+
+} // namespace
+
+std::vector<Probenteilnehmer> TeilnehmerDerProbe(qint32 Fach_ID, int Probe_ID) {
+    std::vector<Probenteilnehmer> Teilnehmer;
+    for (int i = 0; i < Datenbank.AnzNoten; ++i) {
+        const Notenzeile& Zeile = Datenbank.Noten[i];
+        if (Zeile.Fach_ID == Fach_ID && Zeile.Teilnahme == QStringLiteral("ja"))
+            Teilnehmer.push_back({Zeile.Schueler_ID, {}, Zeile.P[Probe_ID], Zeile.N[Probe_ID]});
+    }
+    NamenEintragen(Teilnehmer);
+    for (int i = 0; i < Datenbank.AnzZSchueler; ++i) {
+        const ZSchueler& Einer = Datenbank.ZSchueler[i];
+        if (Einer.Fach_ID == Fach_ID && Einer.Probe_ID == Probe_ID)
+            Teilnehmer.push_back({i, Einer.Name, Einer.Punkte, Einer.Note});
+    }
+    std::reverse(Teilnehmer.begin(), Teilnehmer.end());
+    return Teilnehmer;
+}
+
+void NotenSpeichern(const std::vector<qint32>& IDs, const std::vector<Zeilenergebnis>& Ergebnisse,
+                    qint32 Fach_ID, int Probe_ID) {
+    const QHash<qint32, int> Zeilen = NotenzeilenDesFachs(Fach_ID);
+    for (std::size_t i = 0; i < IDs.size(); ++i) {
+        if (!Ergebnisse[i].Note)
+            continue;
+        if (IstZSchueler(IDs[i])) {
+            if (const Eintrag Stelle = ZSchuelerEintrag(IDs[i]); Stelle.Note)
+                TextSetzen(*Stelle.Note, *Ergebnisse[i].Note);
+        } else if (const int Index = Zeilen.value(IDs[i], -1); Index >= 0) {
+            TextSetzen(Datenbank.Noten[Index].N[Probe_ID], *Ergebnisse[i].Note);
+        }
+    }
+}
+
+bool PunkteAendern(qint32 ID, qint32 Fach_ID, int Probe_ID, const QString& Punkte) {
+    const Eintrag Stelle = EintragSuchen(ID, Fach_ID, Probe_ID);
+    return Stelle.Punkte && TextSetzen(*Stelle.Punkte, Punkte);
+}
+
+QString HandPunkte(const QString& Punkte) {
+    const float Wert = -std::fabs(ZahlAusText(Punkte));
+    return ZahlText(Wert == 0 ? -0.1F : Wert);
+}
+
+bool NoteVonHandSetzen(qint32 ID, qint32 Fach_ID, int Probe_ID, const QString& Note, QString& Punkte) {
+    const Eintrag Stelle = EintragSuchen(ID, Fach_ID, Probe_ID);
+    if (!Stelle.Note || !TextSetzen(*Stelle.Note, Note))
+        return false;
+    *Stelle.Punkte = HandPunkte(*Stelle.Punkte);
+    Punkte = *Stelle.Punkte;
+    return true;
+}
+
+void TeilnehmerNamenAendern(qint32 ID, const QString& Name) {
+    if (!IstZSchueler(ID))
+        SchuelerNamenAendern(ID, Name);
+    else if (ID >= 0 && ID < Datenbank.AnzZSchueler)
+        TextSetzen(Datenbank.ZSchueler[ID].Name, Name);
+}
+
+void ZSchuelerEntfernen(int Index) {
+    if (Index < 0 || Index >= Datenbank.AnzZSchueler)
+        return;
+    std::move(Datenbank.ZSchueler.begin() + Index + 1, Datenbank.ZSchueler.begin() + Datenbank.AnzZSchueler,
+              Datenbank.ZSchueler.begin() + Index);
+    --Datenbank.AnzZSchueler;
+    DatenGeaendert = true;
+}

@@ -1,0 +1,340 @@
+#include "Hauptfenster.h"
+#include "common/Testbuch.h"
+#include "common/Testprogramm.h"
+#include "controls/Ansicht.h"
+#include "controls/Kombinationsfeld.h"
+#include "controls/Textfeld.h"
+#include "core/Datenbankdatei.h"
+#include "core/Datum.h"
+#include "core/Definitionen.h"
+#include "core/Eingabezaehler.h"
+#include "core/Einstellungen.h"
+#include "core/Oberflaeche.h"
+#include "core/Orte.h"
+#include "core/Uhr.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QDialog>
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QtTest>
+
+class TestHauptfenster : public QObject {
+    Q_OBJECT
+
+    Testwelt Welt;
+    Hauptfenster Fenster;
+
+    QString Hinweis() const { return Fenster.Kind<QLabel>("sbStatusBar_1")->text(); }
+
+    /// A text box on the view on top, which counts its commits.
+    Textfeld* FeldAufAnsicht(int* Gemeldet) {
+        auto* Feld = new Textfeld(Fenster->findChild<Ansicht*>(QStringLiteral("picAnsicht_1")));
+        Feld->show();
+        Feld->setFocus();
+        connect(Feld, &Textfeld::Verlassen, Feld, [Gemeldet] { ++*Gemeldet; });
+        return Feld;
+    }
+
+  private Q_SLOTS:
+    void init() {
+        Welt.Herstellen();
+        Hauptfenster::OrdnerAnlegen(Welt);
+    }
+    void cleanup() {
+        Fenster.Schliessen();
+        Welt.Aufraeumen();
+    }
+
+    // What it is made of.
+
+    void FuenfReiterUndDerZweiteObenauf() {
+        Fenster.Starten();
+        QStringList Titel;
+        for (int Nummer = 0; Nummer < Fenster.Reiter()->count(); ++Nummer) {
+            Titel.append(Fenster.Reiter()->tabText(Nummer));
+            QVERIFY(Fenster->findChild<Ansicht*>(QStringLiteral("picAnsicht_%1").arg(Nummer)));
+        }
+        QCOMPARE(Titel,
+                 QStringList({QStringLiteral("Schüler- und Fächerliste"), QStringLiteral("Probenauswertung"),
+                              QStringLiteral("Notenliste eines Faches"),
+                              QStringLiteral("Notenliste eines Schülers"), QStringLiteral("Beurteilungen")}));
+        QCOMPARE(Fenster.Reiter()->currentIndex(), 1);
+    }
+
+    void DieListeDerSchuljahreHat35Eintraege() {
+        Fenster.Starten();
+        const auto* Liste = Fenster.Kind<Kombinationsfeld>("cbJahrgang");
+        QCOMPARE(Liste->count(), 35);
+        QCOMPARE(Liste->itemText(0), QStringLiteral("1995/96"));
+        QCOMPARE(Liste->itemText(34), QStringLiteral("2029/30"));
+        for (int Index = 0; Index < 35; ++Index)
+            QVERIFY(IstSchuljahr(Liste->itemText(Index)));
+        QVERIFY(!Liste->isEditable());
+        QCOMPARE(Liste->currentText(), QStringLiteral("2003/04"));
+    }
+
+    void DieStatuszeileZeigtDatumUndUhrzeit() {
+        Fenster.Starten();
+        QCOMPARE(Fenster.Kind<QLabel>("sbStatusBar_2")->text(), QStringLiteral("12.10.2003"));
+        QCOMPARE(Fenster.Kind<QLabel>("sbStatusBar_3")->text(), QStringLiteral("10:30"));
+        UhrStellen(QDateTime(QDate(2003, 10, 13), QTime(0, 1)));
+        QMetaObject::invokeMethod(Fenster.Kind<QTimer>("timTimer"), "timeout");
+        QCOMPARE(Fenster.Kind<QLabel>("sbStatusBar_2")->text(), QStringLiteral("13.10.2003"));
+        QCOMPARE(Fenster.Kind<QLabel>("sbStatusBar_3")->text(), QStringLiteral("00:01"));
+    }
+
+    void JedesBedienelementHatEinenNamenFuerVorleser() {
+        Fenster.Starten();
+        for (QWidget* Feld : Fenster->findChildren<QWidget*>()) {
+            if (Feld->focusPolicy() == Qt::NoFocus || !Feld->isVisible())
+                continue;
+            const auto* Zugang = QAccessible::queryAccessibleInterface(Feld);
+            if (Zugang && Zugang->role() != QAccessible::PageTabList)
+                QVERIFY2(!Zugang->text(QAccessible::Name).isEmpty(), qPrintable(Feld->objectName()));
+        }
+    }
+
+    // Start.
+
+    void OhneDateiStehtEineNeueDatenbank() {
+        Fenster.Starten();
+        QCOMPARE(Fenster->windowTitle(), QStringLiteral("Tafelquell 3.1 - Unbenannt"));
+        QCOMPARE(Datenbank.AktJahr, QStringLiteral("2003/04"));
+        QVERIFY(!DatenGeaendert);
+        QVERIFY(FormularBereit);
+        QCOMPARE(Hinweis(), QString());
+    }
+
+    void DieLetzteDateiWirdGeladen() {
+        const QString Pfad = Welt.Pfad(QStringLiteral("klasse.txt"));
+        TestbuchLaden(QStringLiteral("Klasse 7a\nFach 50000 7a Mathematik"));
+        SpeichernDatenbank3(Pfad);
+        Fenster.Starten();
+        QCOMPARE(Fenster->windowTitle(), QStringLiteral("Tafelquell 3.1 - klasse.txt"));
+        QCOMPARE(Datenbank.AnzKlassen, qint16(1));
+    }
+
+    void MitAutoLadenFalschWirdNichtsGeladen() {
+        SpeichernDatenbank3(Welt.Pfad(QStringLiteral("klasse.txt")));
+        EinstellungSchreiben(QStringLiteral("AutoLaden"), QStringLiteral("False"));
+        Fenster.Starten();
+        QCOMPARE(Fenster->windowTitle(), QStringLiteral("Tafelquell 3.1 - Unbenannt"));
+    }
+
+    void EineVerschwundeneDateiFuehrtZuMeldungUndNeuerDatenbank() {
+        const QString Pfad = Welt.Pfad(QStringLiteral("weg.txt"));
+        EinstellungSchreiben(QStringLiteral("AutoDatei"), Pfad);
+        Welt.Boxen.ErwarteMeldung(QString());
+        Fenster.Starten();
+        QVERIFY(Welt.Boxen.Gezeigt.first().Text.contains(Pfad));
+        QCOMPARE(Fenster->windowTitle(), QStringLiteral("Tafelquell 3.1 - Unbenannt"));
+        QCOMPARE(EinstellungLesen(QStringLiteral("AutoDatei"), {}), Unbenannt);
+    }
+
+    void DieEinstellungPassbildKommtWiederUndBleibt() {
+        EinstellungSchreiben(QStringLiteral("Passbild"), QStringLiteral("1"));
+        Fenster.Starten();
+        QVERIFY(Fenster.Kind<QCheckBox>("cbPassbild")->isChecked());
+        Fenster.Kind<QCheckBox>("cbPassbild")->setChecked(false);
+        Fenster->close();
+        QCOMPARE(EinstellungLesen(QStringLiteral("Passbild"), {}), QStringLiteral("0"));
+    }
+
+    void DasFensterIstMindestens640Mal400() {
+        EinstellungSchreiben(QStringLiteral("MainWidth"), QStringLiteral("150"));
+        EinstellungSchreiben(QStringLiteral("MainHeight"), QStringLiteral("150"));
+        Fenster.Starten();
+        QCOMPARE(Fenster->size(), QSize(640, 400));
+        Fenster->resize(100, 100);
+        QCOMPARE(Fenster->size(), QSize(640, 400));
+    }
+
+    // Views and menus.
+
+    void DieAnsichtBestimmtDieMenues_data() {
+        QTest::addColumn<int>("Nummer");
+        QTest::addColumn<bool>("Formulierungen");
+        for (int Nummer = 0; Nummer < 5; ++Nummer)
+            QTest::addRow("Reiter %d", Nummer) << Nummer << (Nummer == 4);
+    }
+    void DieAnsichtBestimmtDieMenues() {
+        QFETCH(int, Nummer);
+        QFETCH(bool, Formulierungen);
+        Fenster.Starten();
+        Fenster.Reiter()->setCurrentIndex(Nummer);
+        QCOMPARE(Fenster.Menue("mnuFormulierungen")->menuAction()->isVisible(), Formulierungen);
+    }
+
+    void EinTabwechselLeertDenHinweis() {
+        Fenster.Starten();
+        Q_EMIT Fenster.Kind<Ansicht>("picAnsicht_1")->HinweisGewuenscht(QStringLiteral("Hinweis"));
+        QCOMPARE(Hinweis(), QStringLiteral("Hinweis"));
+        Fenster.Reiter()->setCurrentIndex(0);
+        QCOMPARE(Hinweis(), QString());
+    }
+
+    void DieMausUeberDerAnsichtLeertDenHinweis() {
+        Fenster.Starten();
+        auto* Flaeche = Fenster.Kind<Ansicht>("picAnsicht_1");
+        Q_EMIT Flaeche->HinweisGewuenscht(QStringLiteral("Hinweis"));
+        const QPoint Rand(Flaeche->width() - 2, Flaeche->height() - 2);
+        QTest::mouseMove(Flaeche, Rand - QPoint(1, 1));
+        QTest::mouseMove(Flaeche, Rand);
+        QTRY_COMPARE(Hinweis(), QString());
+    }
+
+    void EinLangerHinweisMachtDasFensterNichtBreiter() {
+        Fenster.Starten();
+        Q_EMIT Fenster.Kind<Ansicht>("picAnsicht_1")->HinweisGewuenscht(QString(400, u'x'));
+        QCoreApplication::processEvents();
+        QCOMPARE(Fenster->width(), 640);
+        QVERIFY(Fenster->statusBar()->minimumSizeHint().width() < 640);
+    }
+
+    void EinTabwechselSchliesstDieEingabeAb_data() {
+        QTest::addColumn<bool>("MitMaus");
+        QTest::newRow("Maus") << true;
+        QTest::newRow("Tasten") << false;
+    }
+    void EinTabwechselSchliesstDieEingabeAb() {
+        QFETCH(bool, MitMaus);
+        Fenster.Starten();
+        int Gemeldet = 0;
+        int Obenauf = -1;
+        auto* Feld = FeldAufAnsicht(&Gemeldet);
+        connect(Feld, &Textfeld::Verlassen, Feld, [&] { Obenauf = Fenster.Reiter()->currentIndex(); });
+        if (MitMaus)
+            QTest::mouseClick(Fenster.Reiter()->tabBar(), Qt::LeftButton, {},
+                              Fenster.Reiter()->tabBar()->tabRect(0).center());
+        else
+            QTest::keyClick(Feld, Qt::Key_Backtab, Qt::ControlModifier);
+        QCOMPARE(Gemeldet, 1);
+        QCOMPARE(Obenauf, 1);
+        QCOMPARE(Fenster.Reiter()->currentIndex(), 0);
+    }
+
+    // Commands take the focus.
+
+    void EinBefehlSchliesstDieEingabeAb() {
+        Fenster.Starten();
+        int Gemeldet = 0;
+        FeldAufAnsicht(&Gemeldet);
+        Welt.Boxen.ErwarteSpeichern(QStringLiteral("Speichern unter..."), {});
+        Fenster.Aktion("mnuFileSave")->trigger();
+        QCOMPARE(Gemeldet, 1);
+        QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(Fenster.Reiter()->tabBar()));
+    }
+
+    void EinBefehlSchliesstDieEingabeAuchInEinemFensterImHintergrundAb() {
+        Fenster.Starten();
+        int Gemeldet = 0;
+        FeldAufAnsicht(&Gemeldet);
+        QWidget Anderes;
+        Anderes.show();
+        Anderes.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Anderes));
+        QCOMPARE(Gemeldet, 0);
+        AktuelleOberflaeche().FokusNehmen();
+        QCOMPARE(Gemeldet, 1);
+        AktuelleOberflaeche().FokusNehmen();
+        QCOMPARE(Gemeldet, 1);
+    }
+
+    void DerTickRuftDieFaelligenEingaben() {
+        Fenster.Starten();
+        int Gelaufen = 0;
+        EingabezaehlerAktion(7, [&Gelaufen] { ++Gelaufen; });
+        EingabeZaehler[7] = 6;
+        for (int Tick = 1; Tick <= 5; ++Tick)
+            QMetaObject::invokeMethod(Fenster.Kind<QTimer>("timTimer"), "timeout");
+        QCOMPARE(Gelaufen, 0);
+        QMetaObject::invokeMethod(Fenster.Kind<QTimer>("timTimer"), "timeout");
+        QCOMPARE(Gelaufen, 1);
+        EingabezaehlerAktion(7, {});
+    }
+
+    void DerTaktIstEineHalbeSekunde() {
+        Fenster.Starten();
+        QCOMPARE(Fenster.Kind<QTimer>("timTimer")->interval(), 500);
+    }
+
+    void EinFehlerImBefehlWirdGemeldetUndDasFensterBleibt() {
+        Fenster.Starten();
+        EingabezaehlerAktion(3, [] { throw Laufzeitfehler(QStringLiteral("Etwas ging nicht.")); });
+        EingabeZaehler[3] = 1;
+        GridEreignisseAktiv = false;
+        Welt.Boxen.ErwarteMeldung(QStringLiteral("Etwas ging nicht."));
+        QMetaObject::invokeMethod(Fenster.Kind<QTimer>("timTimer"), "timeout");
+        QVERIFY(Fenster->isVisible());
+        QVERIFY(GridEreignisseAktiv);
+        EingabezaehlerAktion(3, {});
+    }
+
+    // School year.
+
+    void EinAnderesSchuljahrLeertDieAuswahl() {
+        Fenster.Starten();
+        AktSchuelerID = 10000;
+        AktFachID = 50000;
+        AktProbe = 3;
+        AktKlasse = QStringLiteral("7a");
+        auto* Liste = Fenster.Kind<Kombinationsfeld>("cbJahrgang");
+        QTest::keyClick(Liste, Qt::Key_Down);
+        QCOMPARE(Datenbank.AktJahr, QStringLiteral("2004/05"));
+        QCOMPARE(AktSchuelerID, 0);
+        QCOMPARE(AktFachID, 0);
+        QCOMPARE(AktProbe, 0);
+        QCOMPARE(AktKlasse, QString());
+        QVERIFY(!DatenGeaendert);
+    }
+
+    void DasJahrDerDateiWirdGewaehltOhneDieAuswahlZuLeeren() {
+        Fenster.Starten();
+        AktFachID = 50000;
+        Datenbank.AktJahr = QStringLiteral("1999/00");
+        AktuelleOberflaeche().JahrgangWaehlen();
+        QCOMPARE(Fenster.Kind<Kombinationsfeld>("cbJahrgang")->currentText(), QStringLiteral("1999/00"));
+        QCOMPARE(AktFachID, 50000);
+    }
+
+    // A file dropped on the window.
+
+    void EineHineingezogeneDateiWirdNachDerFrageGeladen() {
+        const QString Pfad = Welt.Pfad(QStringLiteral("andere.txt"));
+        TestbuchLaden(QStringLiteral("Klasse 8b"));
+        SpeichernDatenbank3(Pfad);
+        EinstellungSchreiben(QStringLiteral("AutoDatei"), Unbenannt);
+        Fenster.Starten();
+        QMimeData Daten;
+        Daten.setUrls({QUrl::fromLocalFile(Pfad)});
+        QDragEnterEvent Herein(QPoint(5, 5), Qt::CopyAction, &Daten, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&*Fenster, &Herein);
+        QVERIFY(Herein.isAccepted());
+        DatenGeaendert = true;
+        Welt.Boxen.ErwarteFrage(QStringLiteral("Möchten Sie die Änderungen in "), Antwort::Nein);
+        QDropEvent Fallen(QPoint(5, 5), Qt::CopyAction, &Daten, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&*Fenster, &Fallen);
+        QTRY_COMPARE(Fenster->windowTitle(), QStringLiteral("Tafelquell 3.1 - andere.txt"));
+    }
+
+    void AnderesWirdNichtHereingelassen() {
+        Fenster.Starten();
+        QMimeData Daten;
+        Daten.setUrls({QUrl::fromLocalFile(QStringLiteral("/tmp/bild.jpg"))});
+        QDragEnterEvent Herein(QPoint(5, 5), Qt::CopyAction, &Daten, Qt::LeftButton, Qt::NoModifier);
+        Herein.ignore();
+        QCoreApplication::sendEvent(&*Fenster, &Herein);
+        QVERIFY(!Herein.isAccepted());
+    }
+};
+
+TESTKLASSE(TestHauptfenster)
+#include "tst_hauptfenster.moc"
