@@ -1,5 +1,6 @@
 #include "frame/Ansichten.h"
 
+#include "assessments/AnsichtB.h"
 #include "controls/Ansicht.h"
 #include "core/Reihe.h"
 #include "grading/AnsichtP.h"
@@ -10,12 +11,6 @@
 #include <QString>
 
 namespace {
-
-/// A panel without controls.
-class LeereAnsicht : public Ansicht {
-  public:
-    void Fuellen() override {}
-};
 
 template <class Art>
 Ansicht* Neue() {
@@ -33,7 +28,7 @@ constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
     {"Probenauswertung", Neue<AnsichtP>, false},
     {"Notenliste eines Faches", Neue<AnsichtN1>, true},
     {"Notenliste eines Schülers", Neue<AnsichtN2>, false},
-    {"Beurteilungen", Neue<LeereAnsicht>, true},
+    {"Beurteilungen", Neue<AnsichtB>, true},
 };
 
 const Ansichtseintrag& Eintrag(int Nummer) {
