@@ -21,8 +21,8 @@
         return 0;                                                                                            \
     }                                                                                                        \
     extern "C" int LLVMFuzzerTestOneInput(const unsigned char* Daten, std::size_t Anzahl) {                  \
-        const QString Befund = Pruefung(                                                                     \
-            QByteArray(reinterpret_cast<const char*>(Daten), static_cast<qsizetype>(Anzahl)));               \
+        const QString Befund =                                                                               \
+            Pruefung(QByteArray(reinterpret_cast<const char*>(Daten), static_cast<qsizetype>(Anzahl)));      \
         if (!Befund.isEmpty()) {                                                                             \
             std::fprintf(stderr, "%s\n", qPrintable(Befund));                                                \
             std::abort();                                                                                    \

@@ -13,8 +13,8 @@ using Ausgang = Leseergebnis::Ausgang;
 
 void Ueberhoeren(const Feldwarnung& /*Warnung*/) {}
 
-/// A class whose row would read as a section marker. No name of a class and no year of the list looks so; only
-/// a damaged file can hold one, and the format has no way to store it.
+/// A class whose row would read as a section marker. No name of a class and no year of the list looks so;
+/// only a damaged file can hold one, and the format has no way to store it.
 bool KlasseWieMarke() {
     for (int i = 0; i < Datenbank.AnzKlassen; ++i)
         if (Datenbank.Klassen[i].Jahr.startsWith(u'[') && Datenbank.Klassen[i].Name.endsWith(u']'))

@@ -3,8 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
-// What must hold for any bytes, however damaged. The fuzz targets and the replay of their corpus call these; the
-// answer is empty, or says what does not hold. A crash, a leak or a hang is a failure by itself.
+// What must hold for any bytes, however damaged. The fuzz targets and the replay of their corpus call these;
+// the answer is empty, or says what does not hold. A crash, a leak or a hang is a failure by itself.
 
 /// Reads the bytes as a grade book. If they load, what is written from memory loads without a warning, leaves
 /// nothing out, and gives the same bytes again.
