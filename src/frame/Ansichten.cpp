@@ -1,7 +1,9 @@
 #include "frame/Ansichten.h"
 
+#include "assessments/AnsichtB.h"
 #include "controls/Ansicht.h"
 #include "core/Reihe.h"
+#include "grading/AnsichtP.h"
 #include "views/AnsichtN1.h"
 #include "views/AnsichtN2.h"
 #include "views/AnsichtS.h"
@@ -9,12 +11,6 @@
 #include <QString>
 
 namespace {
-
-/// A panel without controls.
-class LeereAnsicht : public Ansicht {
-  public:
-    void Fuellen() override {}
-};
 
 template <class Art>
 Ansicht* Neue() {
@@ -29,10 +25,10 @@ struct Ansichtseintrag {
 
 constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
     {"Schüler- und Fächerliste", Neue<AnsichtS>, true},
-    {"Probenauswertung", Neue<LeereAnsicht>, false},
+    {"Probenauswertung", Neue<AnsichtP>, false},
     {"Notenliste eines Faches", Neue<AnsichtN1>, true},
     {"Notenliste eines Schülers", Neue<AnsichtN2>, false},
-    {"Beurteilungen", Neue<LeereAnsicht>, true},
+    {"Beurteilungen", Neue<AnsichtB>, true},
 };
 
 const Ansichtseintrag& Eintrag(int Nummer) {

@@ -17,6 +17,7 @@
 #include "frame/Hinweiszeile.h"
 #include "frame/Menue.h"
 #include "frame/frmAbout.h"
+#include "grading/dlgOptions.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -142,6 +143,13 @@ void frmMain::Beenden() {
     const bool OhneFormulierungen = FormulierungenAbfrage();
     if (FrageSpeichern() && OhneFormulierungen)
         close();
+}
+
+void frmMain::OptionenAendern() {
+    OptionenZeigen(this);
+    const int Nummer = tabAnsicht->currentIndex();
+    if (Nummer == Reiter::P || Nummer == Reiter::N2)
+        AnsichtAktualisieren();
 }
 
 void frmMain::InfoZeigen() {
