@@ -53,7 +53,10 @@ frmMain::~frmMain() {
 
 void frmMain::Laden() {
     FormularBereit = false;
-    setGeometry(FensterlageLesen());
+    // The place is the frame's, so that a window put back does not wander by the height of its title.
+    const QRect Lage = FensterlageLesen();
+    move(Lage.topLeft());
+    resize(Lage.size());
     Datenbank.AnzSchueler = Datenbank.AnzKlassen = Datenbank.AnzFaecher = 0;
     Datenbank.AnzNoten = Datenbank.AnzZSchueler = 0;
     DatenGeaendert = FormulierungenGeaendert = false;
