@@ -3,6 +3,8 @@
 #include "controls/Ansicht.h"
 #include "core/Reihe.h"
 #include "grading/AnsichtP.h"
+#include "views/AnsichtN1.h"
+#include "views/AnsichtN2.h"
 #include "views/AnsichtS.h"
 
 #include <QString>
@@ -29,8 +31,8 @@ struct Ansichtseintrag {
 constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
     {"Schüler- und Fächerliste", Neue<AnsichtS>, true},
     {"Probenauswertung", Neue<AnsichtP>, false},
-    {"Notenliste eines Faches", Neue<LeereAnsicht>, true},
-    {"Notenliste eines Schülers", Neue<LeereAnsicht>, false},
+    {"Notenliste eines Faches", Neue<AnsichtN1>, true},
+    {"Notenliste eines Schülers", Neue<AnsichtN2>, false},
     {"Beurteilungen", Neue<LeereAnsicht>, true},
 };
 

@@ -13,6 +13,7 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -490,7 +491,10 @@ class TestDlgOptions : public QObject {
 
     void okSpeichertAlleWerte() {
         Oeffnen();
-        Tippen("txtProbenBezeichnung1_0", QStringLiteral("Probe\tmit Tab"));
+        QGuiApplication::clipboard()->setText(QStringLiteral("Probe\tmit Tab"));
+        Tippen("txtProbenBezeichnung1_0", QStringLiteral("weg"));
+        Box("txtProbenBezeichnung1_0")->selectAll();
+        QTest::keySequence(Box("txtProbenBezeichnung1_0"), QKeySequence::Paste);
         Tippen("txtProbenBezeichnung2_12", QStringLiteral("Kurzarbeit"));
         Tippen("txtHalbjahreswechsel", QStringLiteral("1.3."));
         Tippen("txtEndjahreswechsel", QStringLiteral("31.7."));
@@ -573,6 +577,7 @@ class TestDlgOptions : public QObject {
         Oeffnen();
         Seite(3);
         QTest::keyClick(Leiste("ScrollbarG"), Qt::Key_Tab);
+        QCOMPARE(Dialog->focusWidget()->objectName(), QStringLiteral("btOK"));
         QVERIFY(Teil<QPushButton>("btOK")->hasFocus());
         QTest::keyClick(Teil<QPushButton>("btOK"), Qt::Key_Backtab, Qt::ShiftModifier);
         QVERIFY(Leiste("ScrollbarG")->hasFocus());
