@@ -29,10 +29,8 @@ struct Ansichtseintrag {
 };
 
 constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
-    {"Schüler- und Fächerliste", Neue<AnsichtS>, true},
-    {"Probenauswertung", Neue<AnsichtP>, false},
-    {"Notenliste eines Faches", Neue<AnsichtN1>, true},
-    {"Notenliste eines Schülers", Neue<AnsichtN2>, false},
+    {"Schüler- und Fächerliste", Neue<AnsichtS>, true}, {"Probenauswertung", Neue<AnsichtP>, false},
+    {"Notenliste eines Faches", Neue<AnsichtN1>, true}, {"Notenliste eines Schülers", Neue<AnsichtN2>, false},
     {"Beurteilungen", Neue<LeereAnsicht>, true},
 };
 

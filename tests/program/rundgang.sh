@@ -30,6 +30,7 @@ xdotool getactivewindow windowmove 20 20 windowsize 1030 700
 echo "Beispiel öffnen"
 tasten alt+d f
 warte_auf_fenster "Öffnen"
+bild 1-oeffnen
 tippe "$buch"
 tasten Return
 warte_auf_fenster "Tafelquell 3.1 - Beispiel.txt"
