@@ -1,5 +1,6 @@
 #include "frame/Ansichten.h"
 
+#include "assessments/AnsichtB.h"
 #include "controls/Ansicht.h"
 #include "core/Reihe.h"
 #include "grading/AnsichtP.h"
@@ -10,12 +11,6 @@
 #include <QString>
 
 namespace {
-
-/// A panel without controls.
-class LeereAnsicht : public Ansicht {
-  public:
-    void Fuellen() override {}
-};
 
 template <class Art>
 Ansicht* Neue() {
@@ -28,11 +23,15 @@ struct Ansichtseintrag {
     bool Exportiert = false;
 };
 
+// clang-format off: one line a view
 constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
-    {"Schüler- und Fächerliste", Neue<AnsichtS>, true}, {"Probenauswertung", Neue<AnsichtP>, false},
-    {"Notenliste eines Faches", Neue<AnsichtN1>, true}, {"Notenliste eines Schülers", Neue<AnsichtN2>, false},
-    {"Beurteilungen", Neue<LeereAnsicht>, true},
+    {"Schüler- und Fächerliste", Neue<AnsichtS>, true},
+    {"Probenauswertung", Neue<AnsichtP>, false},
+    {"Notenliste eines Faches", Neue<AnsichtN1>, true},
+    {"Notenliste eines Schülers", Neue<AnsichtN2>, false},
+    {"Beurteilungen", Neue<AnsichtB>, true},
 };
+// clang-format on
 
 const Ansichtseintrag& Eintrag(int Nummer) {
     if (Nummer < 0 || Nummer >= AnzahlAnsichten)
