@@ -16,7 +16,8 @@ bool NurVorn(Qt::FocusReason Grund) {
 
 Fokuswaechter::Fokuswaechter(QWidget* Bewachtes)
     : QObject(Bewachtes)
-    , Feld(Bewachtes) {
+    , Feld(Bewachtes)
+    , Art(Bewachtes->metaObject()) {
     Feld->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget*, QWidget* Jetzt) { FokusGewechselt(Jetzt); });
@@ -38,8 +39,13 @@ void Fokuswaechter::Hinein() {
     Q_EMIT Betreten();
 }
 
+/// A box that is destroyed loses the focus when its own class is no longer there to answer.
+bool Fokuswaechter::FeldBesteht() const {
+    return Feld->metaObject()->inherits(Art);
+}
+
 void Fokuswaechter::Hinaus() {
-    if (!Drin)
+    if (!Drin || !FeldBesteht())
         return;
     // What an input method still composes belongs to the text that is taken.
     QGuiApplication::inputMethod()->commit();

@@ -30,6 +30,9 @@ class Fokuswaechter : public QObject {
     void Hinaus();
     void FokusGewechselt(QWidget* Jetzt);
 
+    bool FeldBesteht() const;
+
     QWidget* Feld;
+    const QMetaObject* Art; ///< class of Feld
     bool Drin = false;
 };

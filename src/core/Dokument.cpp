@@ -68,17 +68,31 @@ void NeueDatenbank() {
     Fenster.JahrgangWaehlen();
 }
 
+namespace {
+
+/// Loads the file and shows it; what a broken-off save of it has left is offered first.
+void LadenUndZeigen(const QString& Pfad) {
+    RettungAnbietenFuer(Pfad);
+    if (!LadeDatenbank(Pfad))
+        DatenbankWiederherstellen(Pfad);
+    AktuelleOberflaeche().AnsichtAktualisieren();
+}
+
+} // namespace
+
 void DatenbankOeffnen() {
     AktuelleOberflaeche().FokusNehmen();
     if (!FrageSpeichern())
         return;
     const auto Wahl = Meldungen().Oeffnen({Tr("Öffnen"), {{Tr("Notendatenbank (*.txt)"), Muster}}, {}});
-    if (!Wahl || Wahl->Pfad.isEmpty())
-        return;
-    RettungAnbietenFuer(Wahl->Pfad);
-    if (!LadeDatenbank(Wahl->Pfad))
-        DatenbankWiederherstellen(Wahl->Pfad);
-    AktuelleOberflaeche().AnsichtAktualisieren();
+    if (Wahl && !Wahl->Pfad.isEmpty())
+        LadenUndZeigen(Wahl->Pfad);
+}
+
+void DatenbankOeffnen(const QString& Pfad) {
+    AktuelleOberflaeche().FokusNehmen();
+    if (FrageSpeichern())
+        LadenUndZeigen(Pfad);
 }
 
 bool DatenbankSpeichern() {

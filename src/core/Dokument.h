@@ -12,6 +12,7 @@
 bool FrageSpeichern();
 void NeueDatenbank();                                ///< mnuFileNew, mnuFileClose
 void DatenbankOeffnen();                             ///< mnuFileOpen
+void DatenbankOeffnen(const QString& Pfad);          ///< the same with a known file, such as one dropped
 bool DatenbankSpeichern();                           ///< mnuFileSave; true if saved
 bool DatenbankSpeichernUnter();                      ///< mnuFileSaveAs; true if saved
 void SicherheitskopieErstellen();                    ///< mnuFileBackup

@@ -1,19 +1,16 @@
 #include "frame/Ansichten.h"
 
+#include "assessments/AnsichtB.h"
 #include "controls/Ansicht.h"
 #include "core/Reihe.h"
 #include "grading/AnsichtP.h"
+#include "views/AnsichtN1.h"
+#include "views/AnsichtN2.h"
 #include "views/AnsichtS.h"
 
 #include <QString>
 
 namespace {
-
-/// A panel without controls.
-class LeereAnsicht : public Ansicht {
-  public:
-    void Fuellen() override {}
-};
 
 template <class Art>
 Ansicht* Neue() {
@@ -29,9 +26,9 @@ struct Ansichtseintrag {
 constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
     {"Schüler- und Fächerliste", Neue<AnsichtS>, true},
     {"Probenauswertung", Neue<AnsichtP>, false},
-    {"Notenliste eines Faches", Neue<LeereAnsicht>, true},
-    {"Notenliste eines Schülers", Neue<LeereAnsicht>, false},
-    {"Beurteilungen", Neue<LeereAnsicht>, true},
+    {"Notenliste eines Faches", Neue<AnsichtN1>, true},
+    {"Notenliste eines Schülers", Neue<AnsichtN2>, false},
+    {"Beurteilungen", Neue<AnsichtB>, true},
 };
 
 const Ansichtseintrag& Eintrag(int Nummer) {

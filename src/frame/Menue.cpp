@@ -1,5 +1,6 @@
 #include "frame/Menue.h"
 
+#include "assessments/Formulierungen.h"
 #include "core/Dokument.h"
 #include "frame/Hilfe.h"
 #include "frame/Zwischenablage.h"
@@ -75,18 +76,32 @@ constexpr Menueintrag Menuebaum[] = {
     {.Art = Schalter, .Name = "mnuViewPassbild", .Text = "&Passbild"},
 
     {.Art = Menue, .Name = "mnuFormulierungen", .Text = "Beurteilungs&formulierungen", .Sichtbar = false},
-    {.Name = "mnuFormulierungenNeu", .Text = "&Neu"},
-    {.Name = "mnuFormulierungenOpen", .Text = "Ö&ffnen..."},
-    {.Name = "mnuFormulierungenHinzufuegen", .Text = "&Hinzufügen..."},
+    {.Name = "mnuFormulierungenNeu", .Text = "&Neu", .Ablauf = [](frmMain&) { FormulierungenNeu(); }},
+    {.Name = "mnuFormulierungenOpen",
+     .Text = "Ö&ffnen...",
+     .Ablauf = [](frmMain&) { FormulierungenOeffnen(); }},
+    {.Name = "mnuFormulierungenHinzufuegen",
+     .Text = "&Hinzufügen...",
+     .Ablauf = [](frmMain&) { FormulierungenHinzufuegen(); }},
     {.Art = Strich, .Name = "mnuBBar1"},
-    {.Name = "mnuFormulierungenSave", .Text = "&Speichern"},
-    {.Name = "mnuFormulierungenSaveAs", .Text = "Speichern &unter..."},
+    {.Name = "mnuFormulierungenSave",
+     .Text = "&Speichern",
+     .Ablauf = [](frmMain&) { FormulierungenSpeichern(); }},
+    {.Name = "mnuFormulierungenSaveAs",
+     .Text = "Speichern &unter...",
+     .Ablauf = [](frmMain&) { FormulierungenSpeichernUnter(); }},
     {.Art = Strich, .Name = "mnuBBar2"},
-    {.Name = "mnuFormulierungenBackup", .Text = "Sicherheits&kopie erstellen"},
-    {.Name = "mnuFormulierungenRestore", .Text = "&Wiederherstellen aus Sicherheitskopie"},
+    {.Name = "mnuFormulierungenBackup",
+     .Text = "Sicherheits&kopie erstellen",
+     .Ablauf = [](frmMain&) { FormulierungenSicherheitskopie(); }},
+    {.Name = "mnuFormulierungenRestore",
+     .Text = "&Wiederherstellen aus Sicherheitskopie",
+     .Ablauf = [](frmMain&) { FormulierungenWiederherstellen(); }},
 
     {.Art = Menue, .Name = "mnumnuExtras", .Text = "E&xtras"},
-    {.Name = "mnuExtrasOptionen", .Text = "&Optionen..."},
+    {.Name = "mnuExtrasOptionen",
+     .Text = "&Optionen...",
+     .Ablauf = [](frmMain& Fenster) { Fenster.OptionenAendern(); }},
     {.Name = "mnuPassbilderErstellen", .Text = "Passbilder erstellen"},
 
     {.Art = Menue, .Name = "mnuHelp", .Text = "&Hilfe"},

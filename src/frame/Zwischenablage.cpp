@@ -156,13 +156,15 @@ bool Zwischenablagewaechter::eventFilter(QObject* Ziel, QEvent* Ereignis) {
         return true;
     }
     if (Ereignis->type() == QEvent::FocusOut &&
-        static_cast<QFocusEvent*>(Ereignis)->reason() == Qt::MenuBarFocusReason)
-        AuswahlMerken(qobject_cast<QLineEdit*>(Ziel));
+        static_cast<QFocusEvent*>(Ereignis)->reason() == Qt::MenuBarFocusReason) {
+        if (auto* Feld = qobject_cast<QLineEdit*>(Ziel))
+            AuswahlMerken(Feld);
+    }
     return QObject::eventFilter(Ziel, Ereignis);
 }
 
 void Zwischenablagewaechter::AuswahlMerken(QLineEdit* Feld) {
-    Verlassenes = Feld && Feld->hasSelectedText() ? Feld : nullptr;
+    Verlassenes = Feld->hasSelectedText() ? Feld : nullptr;
     if (Verlassenes) {
         Anfang = Feld->selectionStart();
         Laenge = Feld->selectionLength();

@@ -1,5 +1,6 @@
 #include "frame/frmMain.h"
 
+#include "assessments/Formulierungen.h"
 #include "controls/Ansicht.h"
 #include "controls/Kombinationsfeld.h"
 #include "core/Datenbankdatei.h"
@@ -16,6 +17,7 @@
 #include "frame/Hinweiszeile.h"
 #include "frame/Menue.h"
 #include "frame/frmAbout.h"
+#include "grading/dlgOptions.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -57,9 +59,10 @@ void frmMain::Laden() {
     DatenGeaendert = FormulierungenGeaendert = false;
     RettungenAnbieten(); // before any file is read: the parameter file may be one of them
     LadeParameter();
-    tabAnsicht->setCurrentIndex(Reiter::P);
     // Before any file is loaded: what a broken-off save has left may be newer than the file.
     Ausfuehren(RettungenAnbieten);
+    Ausfuehren(FormulierungenBeimStartLaden);
+    tabAnsicht->setCurrentIndex(Reiter::P);
     Ausfuehren([this] { LetzteDateiLaden(); });
     cbPassbild->setChecked(EinstellungLesen(QStringLiteral("Passbild"), QStringLiteral("0")) ==
                            QStringLiteral("1"));
@@ -136,22 +139,21 @@ void frmMain::BefehlAusfuehren(const Menueintrag& Eintrag) {
 }
 
 void frmMain::Beenden() {
-    // Further prompts of the end of the program come here; each is shown, whatever the answers before.
-    if (FrageSpeichern())
+    // Both prompts are shown, whatever the answer to the first.
+    const bool OhneFormulierungen = FormulierungenAbfrage();
+    if (FrageSpeichern() && OhneFormulierungen)
         close();
+}
+
+void frmMain::OptionenAendern() {
+    OptionenZeigen(this);
+    const int Nummer = tabAnsicht->currentIndex();
+    if (Nummer == Reiter::P || Nummer == Reiter::N2)
+        AnsichtAktualisieren();
 }
 
 void frmMain::InfoZeigen() {
     frmAbout(this).exec();
-}
-
-void frmMain::DateiOeffnen(const QString& Pfad) {
-    FokusNehmen();
-    if (!FrageSpeichern())
-        return;
-    if (!LadeDatenbank(Pfad))
-        DatenbankWiederherstellen(Pfad);
-    AnsichtAktualisieren();
 }
 
 void frmMain::Hinweis(const QString& Text) {
@@ -176,6 +178,7 @@ void frmMain::closeEvent(QCloseEvent* Ereignis) {
     Ausfuehren([this] { ZustandSichern(); });
     // At this point the end is settled: an answer "Abbrechen" leaves the changes unsaved.
     Ausfuehren([] { FrageSpeichern(); });
+    Ausfuehren([] { FormulierungenAbfrage(); });
     const auto Fenster = QApplication::topLevelWidgets();
     for (auto Eines = Fenster.crbegin(); Eines != Fenster.crend(); ++Eines)
         if (*Eines != this && (*Eines)->isVisible())
@@ -203,7 +206,7 @@ void frmMain::dropEvent(QDropEvent* Ereignis) {
     const QString Pfad = GezogeneDatei(*Ereignis->mimeData());
     Ereignis->acceptProposedAction();
     // The drag must end before a prompt comes up.
-    QTimer::singleShot(0, this, [this, Pfad] { Ausfuehren([this, Pfad] { DateiOeffnen(Pfad); }); });
+    QTimer::singleShot(0, this, [Pfad] { DatenbankOeffnen(Pfad); });
 }
 
 bool frmMain::event(QEvent* Ereignis) {

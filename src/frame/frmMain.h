@@ -38,10 +38,10 @@ class frmMain : public QMainWindow, public Oberflaeche {
     void AnsichtAktualisieren() override;
 
     // Commands of the menu that are the window's own.
-    void Beenden();       ///< mnuFileExit: both save prompts, then close unless one was cancelled
-    void LeistenZeigen(); ///< tool bar and status bar follow their check marks
-    void InfoZeigen();    ///< mnuHelpAbout
-    void DateiOeffnen(const QString& Pfad); ///< a file dropped on the window: as mnuFileOpen, without dialog
+    void Beenden();         ///< mnuFileExit: both save prompts, then close unless one was cancelled
+    void LeistenZeigen();   ///< tool bar and status bar follow their check marks
+    void OptionenAendern(); ///< mnuExtrasOptionen; the views that show averages follow
+    void InfoZeigen();      ///< mnuHelpAbout
 
     /// Commits the edit in progress and stores window, parameters and settings, without a box: what every end
     /// of the program does first.
