@@ -107,7 +107,7 @@ double Schriftmass::Breite(QStringView Text) const {
 }
 
 double Schriftmass::Hoehe() const {
-    return Masse.height() * TwipsJePixel;
+    return Masse.lineSpacing() * TwipsJePixel;
 }
 
 double ZeilenhoeheBerechnen(const Textmass& Mass, const QString& Text, double Breite) {

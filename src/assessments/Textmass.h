@@ -34,5 +34,7 @@ double ZeilenhoeheBerechnen(const Textmass& Mass, const QString& Text, double Br
 
 /// Caret position (characters in front of it) for a point of a text box of this width: the start of the word
 /// under the point; right of a line the end of its last word; below the last line the end of the text. Lines
-/// of the text are separated by CR LF. Words and lines beyond 1000 and 100 are taken all the same.
+/// of the text are separated by CR LF. Words and lines beyond 1000 and 100 are taken all the same. It
+/// rebuilds the wrapping; EingabeText::WortstelleBei gives the same places from the wrapping that is on the
+/// screen.
 int TextPositionBerechnen(const Textmass& Mass, const QString& Text, double Breite, double X, double Y);

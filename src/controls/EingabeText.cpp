@@ -49,6 +49,7 @@ void EingabeText::Zeigen(const QString& Neuer, QColor Grund) {
     Still = true;
     setPlainText(QString(Neuer).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     Still = false;
+    moveCursor(QTextCursor::End);
     Anker->Zeigen();
 }
 
@@ -58,7 +59,10 @@ void EingabeText::Verbergen() {
 }
 
 void EingabeText::Einfuegen(const QString& Neuer) {
-    insertPlainText(QString(Neuer).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    QTextCursor Marke = textCursor();
+    Marke.clearSelection();
+    Marke.insertText(QString(Neuer).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    setTextCursor(Marke);
 }
 
 bool EingabeText::MarkeAmEnde() const {

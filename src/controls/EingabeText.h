@@ -21,12 +21,12 @@ class EingabeText : public QPlainTextEdit {
     void setMehrzeilig(bool Mehrere); ///< false: it wraps, but holds one line
 
     QString Text() const; ///< lines separated by CR LF
-    /// Lays the box over the current cell with this text, caret at its start, on the background of the cell,
+    /// Lays the box over the current cell with this text, caret at its end, on the background of the cell,
     /// shows it and gives it the focus. No Geaendert.
     void Zeigen(const QString& Neuer, QColor Grund = {});
     /// Hides the box without Verlassen.
     void Verbergen();
-    /// Puts a text in place of the selection or at the caret, as typing does.
+    /// Puts a text in at the caret, which then stands behind it; a selection is not replaced.
     void Einfuegen(const QString& Neuer);
     bool MarkeAmEnde() const; ///< the caret stands behind the last character
     void MarkeSetzen(int Stelle);

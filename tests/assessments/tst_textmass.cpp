@@ -142,7 +142,7 @@ class TextmassTest : public QObject {
         const QFont Schrift(QStringLiteral("DejaVu Sans"), 9);
         const Schriftmass Mass(Schrift);
         const QFontMetricsF Masse(Schrift);
-        QCOMPARE(Mass.Hoehe(), Masse.height() * 15);
+        QCOMPARE(Mass.Hoehe(), Masse.lineSpacing() * 15);
         for (int Durchgang = 0; Durchgang < 2; ++Durchgang) // the second time from memory
             QCOMPARE(Mass.Breite(u"Mädchen "), Masse.horizontalAdvance(QStringLiteral("Mädchen ")) * 15);
     }
