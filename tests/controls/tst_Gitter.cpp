@@ -80,13 +80,21 @@ void GitterTest::cleanup() {
 
 /// Two header rows and a name column; each cell says its place.
 void GitterTest::Fuellen(int Zeilen, int Spalten) {
-    Tabelle->setRows(Zeilen);
+    const auto Platz = [](int Zeile, int Spalte) { return QStringLiteral("%1/%2").arg(Zeile).arg(Spalte); };
     Tabelle->setCols(Spalten);
+    Tabelle->setRows(2);
     Tabelle->setFixedRows(2);
     Tabelle->setFixedCols(1);
-    for (int z = 0; z < Zeilen; ++z)
+    for (int z = 0; z < 2; ++z)
         for (int s = 0; s < Spalten; ++s)
-            Tabelle->setTextMatrix(z, s, QStringLiteral("%1/%2").arg(z).arg(s));
+            Tabelle->setTextMatrix(z, s, Platz(z, s));
+    std::vector<Gitterzeile> Rumpf(static_cast<std::size_t>(Zeilen - 3));
+    for (int z = 2; z < Zeilen - 1; ++z)
+        for (int s = 0; s < Spalten; ++s)
+            Rumpf[static_cast<std::size_t>(z - 2)].Zellen.push_back({Platz(z, s), 0, 0});
+    Tabelle->ZeilenSetzen(std::move(Rumpf));
+    for (int s = 0; s < Spalten; ++s)
+        Tabelle->setTextMatrix(Zeilen - 1, s, Platz(Zeilen - 1, s));
     Tabelle->show();
     QVERIFY(QTest::qWaitForWindowActive(Tabelle.get()));
 }
