@@ -73,7 +73,7 @@ dlgOptions::~dlgOptions() = default;
 void dlgOptions::Platzieren() {
     const QRect Platz = screen()->availableGeometry();
     const QFontMetrics Mass = fontMetrics();
-    resize(QSize(124 * Mass.averageCharWidth(), 45 * Mass.height()).boundedTo(Platz.size()));
+    resize(QSize(130 * Mass.averageCharWidth(), 48 * Mass.height()).boundedTo(Platz.size()));
     if (!parentWidget())
         return;
     const QPoint Ecke = parentWidget()->window()->pos() + QPoint(Gitter::TwipsInPixel(220), 0);
