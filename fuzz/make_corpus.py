@@ -109,6 +109,12 @@ def parameter_variants(data):
     yield "winzige-zahl", data.replace(b"\t94\t", b"\t1e-44\t", 1)
 
 
+def small_parameter_file(data):
+    """Three rows of the long tables: what matters is damage, and short inputs make many executions."""
+    head, sections = sections_of(data)
+    return joined([head, *sections[0], *sections[1], *sections[2][:5], *sections[3][:4], sections[3][-1]])
+
+
 def write(target, cases):
     folder = HERE / "corpus" / target
     folder.mkdir(parents=True, exist_ok=True)
@@ -120,8 +126,7 @@ def write(target, cases):
 
 def main():
     book = (ROOT / "tests" / "data" / "klein.txt").read_bytes()
-    ini = joined(lines_of((ROOT / "data" / "Tafelquell.ini").read_bytes())[:40]
-                 + lines_of((ROOT / "data" / "Tafelquell.ini").read_bytes())[-15:])
+    ini = small_parameter_file((ROOT / "data" / "Tafelquell.ini").read_bytes())
     books = [*variants(book), *section_variants(book), *database_variants(book)]
     write("datenbank", books)
     write("fremdschueler", books)

@@ -48,6 +48,7 @@ class GitterTest : public QObject {
     void currentCellIsScrolledIntoView();
     void topRowIsTheFirstBelowTheFixedOnes();
     void sharesFillTheWidthAndFollowIt();
+    void sharesNeverGoBelowTheLeastWidth();
     void sortsTextByLocaleIgnoringCaseStably();
     void sortsNumbersDescendingStably();
     void sortTakesDataColoursAndHeightsAlong();
@@ -468,6 +469,17 @@ void GitterTest::sharesFillTheWidthAndFollowIt() {
                  Tabelle->viewport()->width());
         QCOMPARE(Tabelle->ColWidth(0), Tabelle->viewport()->width() / 2);
     }
+}
+
+void GitterTest::sharesNeverGoBelowTheLeastWidth() {
+    Fuellen(3, 3);
+    Tabelle->setColShares({0.5, 0.3, 0.2}, 900);
+    QCOMPARE(Tabelle->ColWidth(0), 450);
+    QVERIFY(Tabelle->horizontalScrollBar()->maximum() > 0);
+    Tabelle->resize(1200, 300);
+    QCoreApplication::processEvents();
+    QCOMPARE(Tabelle->ColWidth(0), Tabelle->viewport()->width() / 2);
+    QCOMPARE(Tabelle->horizontalScrollBar()->maximum(), 0);
 }
 
 void GitterTest::sortsTextByLocaleIgnoringCaseStably() {
