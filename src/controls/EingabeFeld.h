@@ -23,6 +23,8 @@ class EingabeFeld : public Textfeld {
     void Verbergen();
     /// Sets the text without Geaendert; caret, selection and undo stay if it is the same.
     void TextSetzen(const QString& Text);
+    /// Text colour as given for white paper; an invalid one is the theme's.
+    void FarbeSetzen(const QColor& Schriftfarbe);
     /// Asked for every key before the box handles it; true: used up.
     void setTastenregel(std::function<bool(QKeyEvent*)> Regel);
 
@@ -34,10 +36,9 @@ class EingabeFeld : public Textfeld {
     bool event(QEvent* Ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent* Ereignis) override;
     void changeEvent(QEvent* Ereignis) override;
+    void paintEvent(QPaintEvent* Ereignis) override;
 
   private:
-    void FarbeSetzen(const QColor& Schriftfarbe);
-
     Gitter* Tabelle;
     Zellanker* Anker;
     std::function<bool(QKeyEvent*)> Tastenregel;

@@ -1,18 +1,16 @@
 #include "frame/Ansichten.h"
 
+#include "assessments/AnsichtB.h"
 #include "controls/Ansicht.h"
 #include "core/Reihe.h"
+#include "grading/AnsichtP.h"
+#include "views/AnsichtN1.h"
+#include "views/AnsichtN2.h"
 #include "views/AnsichtS.h"
 
 #include <QString>
 
 namespace {
-
-/// A panel without controls.
-class LeereAnsicht : public Ansicht {
-  public:
-    void Fuellen() override {}
-};
 
 template <class Art>
 Ansicht* Neue() {
@@ -25,13 +23,15 @@ struct Ansichtseintrag {
     bool Exportiert = false;
 };
 
+// clang-format off: one line a view
 constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
     {"Schüler- und Fächerliste", Neue<AnsichtS>, true},
-    {"Probenauswertung", Neue<LeereAnsicht>, false},
-    {"Notenliste eines Faches", Neue<LeereAnsicht>, true},
-    {"Notenliste eines Schülers", Neue<LeereAnsicht>, false},
-    {"Beurteilungen", Neue<LeereAnsicht>, true},
+    {"Probenauswertung", Neue<AnsichtP>, false},
+    {"Notenliste eines Faches", Neue<AnsichtN1>, true},
+    {"Notenliste eines Schülers", Neue<AnsichtN2>, false},
+    {"Beurteilungen", Neue<AnsichtB>, true},
 };
+// clang-format on
 
 const Ansichtseintrag& Eintrag(int Nummer) {
     if (Nummer < 0 || Nummer >= AnzahlAnsichten)

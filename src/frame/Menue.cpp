@@ -99,7 +99,9 @@ constexpr Menueintrag Menuebaum[] = {
      .Ablauf = [](frmMain&) { FormulierungenWiederherstellen(); }},
 
     {.Art = Menue, .Name = "mnumnuExtras", .Text = "E&xtras"},
-    {.Name = "mnuExtrasOptionen", .Text = "&Optionen..."},
+    {.Name = "mnuExtrasOptionen",
+     .Text = "&Optionen...",
+     .Ablauf = [](frmMain& Fenster) { Fenster.OptionenAendern(); }},
     {.Name = "mnuPassbilderErstellen", .Text = "Passbilder erstellen"},
 
     {.Art = Menue, .Name = "mnuHelp", .Text = "&Hilfe"},

@@ -1,10 +1,17 @@
 #include "frame/Sitzungsende.h"
 
 #include "assessments/Formulierungen.h"
+#include "assessments/Formulierungsdatei.h"
+#include "core/Dateifehler.h"
+#include "core/Datenbankdatei.h"
+#include "core/Definitionen.h"
 #include "core/Dokument.h"
+#include "core/Einstellungen.h"
 #include "core/Fehlerfang.h"
+#include "core/Rettungsablage.h"
 #include "frame/frmMain.h"
 
+#include <QDebug>
 #include <QGuiApplication>
 #include <QSessionManager>
 #include <QSocketNotifier>
@@ -34,6 +41,12 @@ void SignaleFangen(void (*Behandlung)(int)) {
         sigaction(Nummer, &Aktion, nullptr);
 }
 
+void RettenUndMelden(const QString& Pfad, const QByteArray& Inhalt) {
+    const QString Name = Pfad == Unbenannt ? Unbenannt + QStringLiteral(".txt") : Pfad;
+    if (const int Fehler = UngespeichertesRetten(Name, Inhalt))
+        qWarning().noquote() << "Keine Rettungskopie von" << Name << "-" << FehlerUrsache(Fehler);
+}
+
 } // namespace
 
 Sitzungsende::Sitzungsende(frmMain& Hauptfenster)
@@ -59,12 +72,17 @@ Sitzungsende::~Sitzungsende() {
 }
 
 void Sitzungsende::OhneFrageSichern() {
-    Ausfuehren([this] { Fenster.ZustandSichern(); });
+    Fenster.ZustandSichern();
+    if (DatenGeaendert)
+        RettenUndMelden(AutoDatei(), DatenbankBytes());
+    if (FormulierungenGeaendert)
+        RettenUndMelden(EinstellungLesen(QStringLiteral("Formulierungen"), Unbenannt),
+                        FormulierungenBytes(Lernbereiche, AnzLernbereiche));
 }
 
 void Sitzungsende::SitzungEndet(QSessionManager& Verwaltung) {
     if (!Verwaltung.allowsInteraction()) {
-        OhneFrageSichern();
+        Ausfuehren([this] { OhneFrageSichern(); });
         return;
     }
     Ausfuehren([&Verwaltung] {
@@ -76,7 +94,9 @@ void Sitzungsende::SitzungEndet(QSessionManager& Verwaltung) {
 }
 
 void Sitzungsende::SignalAngekommen() {
-    OhneFrageSichern();
+    char Zeichen = 0;
+    [[maybe_unused]] const auto Gelesen = ::read(Ausgang, &Zeichen, 1);
+    Ausfuehren([this] { OhneFrageSichern(); });
     QCoreApplication::exit(0);
 }
 

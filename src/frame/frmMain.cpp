@@ -1,5 +1,6 @@
 #include "frame/frmMain.h"
 
+#include "assessments/AnsichtB.h"
 #include "assessments/Formulierungen.h"
 #include "controls/Ansicht.h"
 #include "controls/Kombinationsfeld.h"
@@ -17,6 +18,7 @@
 #include "frame/Hinweiszeile.h"
 #include "frame/Menue.h"
 #include "frame/frmAbout.h"
+#include "grading/dlgOptions.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -52,7 +54,10 @@ frmMain::~frmMain() {
 
 void frmMain::Laden() {
     FormularBereit = false;
-    setGeometry(FensterlageLesen());
+    // The place is the frame's, so that a window put back does not wander by the height of its title.
+    const QRect Lage = FensterlageLesen();
+    move(Lage.topLeft());
+    resize(Lage.size());
     Datenbank.AnzSchueler = Datenbank.AnzKlassen = Datenbank.AnzFaecher = 0;
     Datenbank.AnzNoten = Datenbank.AnzZSchueler = 0;
     DatenGeaendert = FormulierungenGeaendert = false;
@@ -125,6 +130,22 @@ void frmMain::AnsichtAktualisieren() {
     Hinweis({});
 }
 
+template <class Art>
+Art* frmMain::Sicht() const {
+    for (Ansicht* Eine : picAnsicht)
+        if (auto* Gesuchte = qobject_cast<Art*>(Eine))
+            return Gesuchte;
+    return nullptr;
+}
+
+void frmMain::LernbereicheFuellen() {
+    Sicht<AnsichtB>()->LernbereicheFuellen();
+}
+
+void frmMain::FormulierungenFuellen() {
+    Sicht<AnsichtB>()->FormulierungenFuellen();
+}
+
 void frmMain::EintragErlauben(const QString& Name, bool Erlaubt) {
     for (const Menueintrag& Eintrag : Menueeintraege())
         if (Name == QLatin1String(Eintrag.Name))
@@ -142,6 +163,13 @@ void frmMain::Beenden() {
     const bool OhneFormulierungen = FormulierungenAbfrage();
     if (FrageSpeichern() && OhneFormulierungen)
         close();
+}
+
+void frmMain::OptionenAendern() {
+    OptionenZeigen(this);
+    const int Nummer = tabAnsicht->currentIndex();
+    if (Nummer == Reiter::P || Nummer == Reiter::N2)
+        AnsichtAktualisieren();
 }
 
 void frmMain::InfoZeigen() {

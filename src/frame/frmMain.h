@@ -36,11 +36,14 @@ class frmMain : public QMainWindow, public Oberflaeche {
     void TitelSetzen(const QString& Titel) override;
     void JahrgangWaehlen() override;
     void AnsichtAktualisieren() override;
+    void LernbereicheFuellen() override;
+    void FormulierungenFuellen() override;
 
     // Commands of the menu that are the window's own.
-    void Beenden();       ///< mnuFileExit: both save prompts, then close unless one was cancelled
-    void LeistenZeigen(); ///< tool bar and status bar follow their check marks
-    void InfoZeigen();    ///< mnuHelpAbout
+    void Beenden();         ///< mnuFileExit: both save prompts, then close unless one was cancelled
+    void LeistenZeigen();   ///< tool bar and status bar follow their check marks
+    void OptionenAendern(); ///< mnuExtrasOptionen; the views that show averages follow
+    void InfoZeigen();      ///< mnuHelpAbout
 
     /// Commits the edit in progress and stores window, parameters and settings, without a box: what every end
     /// of the program does first.
@@ -69,6 +72,8 @@ class frmMain : public QMainWindow, public Oberflaeche {
     void LetzteDateiLaden();
     void Tick();
     void UhrZeigen();
+    template <class Art>
+    Art* Sicht() const; ///< the view of this class
 
     QTabWidget* tabAnsicht = nullptr;
     QList<Ansicht*> picAnsicht;

@@ -63,6 +63,14 @@ void EigeneFuellen(Gitter& Tabelle, const Optionen& Werte, int HoechsteNote) {
             EigeneZeilen(Werte, HoechsteNote), HoechsteNote - 1);
 }
 
+void ZeilenAngleichen(Gitter& Tabelle) {
+    constexpr int Zeilenzahl = 7;
+    const int Hoehe = (Tabelle.height() - Gitter::TwipsInPixel(30)) / Zeilenzahl;
+    for (int Zeile = 1; Zeile < qMin(Zeilenzahl, Tabelle.Rows()); ++Zeile)
+        if (Tabelle.RowHeight(Zeile) != Hoehe)
+            Tabelle.setRowHeight(Zeile, Hoehe);
+}
+
 std::vector<QStringList> WerteZeilen(const Gitter& Tabelle) {
     std::vector<QStringList> Zeilen;
     for (int Zeile = Kopfzeilen; Zeile < Tabelle.Rows(); ++Zeile) {

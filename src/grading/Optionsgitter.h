@@ -14,5 +14,8 @@ void TabellenFuellen(Gitter& Tabelle, const Optionen& Werte, int HoechsteNote);
 void GaussFuellen(Gitter& Tabelle, const Optionen& Werte, int HoechsteNote);
 void EigeneFuellen(Gitter& Tabelle, const Optionen& Werte, int HoechsteNote);
 
+/// Shares the height of the grid among the seven rows of a table with five variants.
+void ZeilenAngleichen(Gitter& Tabelle);
+
 /// The rows below the headers as texts, label first.
 std::vector<QStringList> WerteZeilen(const Gitter& Tabelle);

@@ -16,6 +16,7 @@ Verteilungsleiste::Verteilungsleiste(Gitter* Ziel, Verteilungsart Werteart)
     setFocusPolicy(Qt::StrongFocus);
     setContextMenuPolicy(Qt::PreventContextMenu);
     Tabelle->setFocusProxy(this);
+    Tabelle->setTabKeyNavigation(false); // Tab leaves the table
     hide();
     connect(Tabelle, &Gitter::ZelleBetreten, this, [this] {
         if (GridEreignisseAktiv)

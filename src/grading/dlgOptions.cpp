@@ -13,6 +13,7 @@
 
 #include "ui_dlgOptions.h"
 
+#include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QShortcut>
@@ -55,14 +56,30 @@ dlgOptions::dlgOptions(QWidget* Eltern)
                    {Form->txtNotenabstand, Optionsfeld::Notenabstand},
                    {Form->txtHalbjahreswechsel, Optionsfeld::Halbjahreswechsel},
                    {Form->txtEndjahreswechsel, Optionsfeld::Endjahreswechsel}}};
+    for (QScrollArea* Seite : {Form->SeiteAllgemeines, Form->SeiteNotenberechnung}) {
+        // The ground of a tab page shines through, as on the other pages.
+        Seite->viewport()->setAutoFillBackground(false);
+        Seite->widget()->setAutoFillBackground(false);
+    }
     TabellenEinrichten();
     Verbinden();
     Laden();
-    if (Eltern)
-        move(Eltern->window()->pos() + QPoint(Gitter::TwipsInPixel(220), 0));
+    Platzieren();
 }
 
 dlgOptions::~dlgOptions() = default;
+
+/// Over the window that asked for it, and not beyond the screen.
+void dlgOptions::Platzieren() {
+    const QRect Platz = screen()->availableGeometry();
+    const QFontMetrics Mass = fontMetrics();
+    resize(QSize(130 * Mass.averageCharWidth(), 48 * Mass.height()).boundedTo(Platz.size()));
+    if (!parentWidget())
+        return;
+    const QPoint Ecke = parentWidget()->window()->pos() + QPoint(Gitter::TwipsInPixel(220), 0);
+    move(qBound(Platz.left(), Ecke.x(), qMax(Platz.left(), Platz.right() - width())),
+         qBound(Platz.top(), Ecke.y(), qMax(Platz.top(), Platz.bottom() - height())));
+}
 
 void dlgOptions::TabellenEinrichten() {
     const auto Leiste = [](Gitter* Tabelle, Verteilungsart Art, const QString& Name) {
@@ -73,6 +90,10 @@ void dlgOptions::TabellenEinrichten() {
     Leisten = {Leiste(Form->tblBLLVVerteilung, Verteilungsart::Punkte, QStringLiteral("ScrollbarB")),
                Leiste(Form->tblGaussVerteilung, Verteilungsart::Anteil, QStringLiteral("ScrollbarG")),
                Leiste(Form->tblEigeneVerteilung, Verteilungsart::Prozent, QStringLiteral("ScrollbarE"))};
+    // Room for the two arrows of the bar.
+    Form->tblBLLVVerteilung->verticalHeader()->setDefaultSectionSize(2 * fontMetrics().height());
+    for (Gitter* Tabelle : {Form->tblGaussVerteilung, Form->tblEigeneVerteilung})
+        connect(Tabelle, &Gitter::LageGeaendert, this, [Tabelle] { ZeilenAngleichen(*Tabelle); });
     QWidget* Vorher = Form->txtNotenabstand;
     for (Verteilungsleiste* Naechste : Leisten) {
         setTabOrder(Vorher, Naechste);

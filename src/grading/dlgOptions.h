@@ -35,6 +35,7 @@ class dlgOptions : public QDialog {
 
     void Verbinden();
     void TabellenEinrichten();
+    void Platzieren();
     void Laden();
     void KnoepfeLaden();
     void FelderLaden(const Optionen& Werte);

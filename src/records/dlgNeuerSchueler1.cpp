@@ -68,15 +68,14 @@ void dlgNeuerSchueler1::changeEvent(QEvent* Ereignis) {
 
 /// Lays the list of classes over the gap in the caption of the radio button, as the font measures it.
 void dlgNeuerSchueler1::KlassenwahlPlatzieren() {
-    const QRadioButton* Knopf = Form->rbZSchueler2;
+    QRadioButton* Knopf = Form->rbZSchueler2;
     QStyleOptionButton Option;
     Option.initFrom(Knopf);
     const QRect Text = Knopf->style()->subElementRect(QStyle::SE_RadioButtonContents, &Option, Knopf);
     const QFontMetrics Mass = Knopf->fontMetrics();
-    const QPoint Anfang = Knopf->mapTo(this, Text.topLeft());
     const int Hoehe = Form->cbKlasse->sizeHint().height();
-    Form->cbKlasse->setGeometry(Anfang.x() + Mass.horizontalAdvance(Vor),
-                                Knopf->y() + (Knopf->height() - Hoehe) / 2, Mass.horizontalAdvance(Luecke),
-                                Hoehe);
-    Form->cbKlasse->raise();
+    if (MitKlassenwahl())
+        Knopf->setMinimumHeight(Hoehe);
+    Form->cbKlasse->setGeometry(Text.left() + Mass.horizontalAdvance(Vor), (Knopf->height() - Hoehe) / 2,
+                                Mass.horizontalAdvance(Luecke), Hoehe);
 }

@@ -6,6 +6,7 @@
 #include "ui_dlgNeuesFach1.h"
 
 #include <QKeyEvent>
+#include <QLayout>
 
 dlgNeuesFach1::dlgNeuesFach1(QWidget* Eltern)
     : QDialog(Eltern)
@@ -30,6 +31,8 @@ dlgNeuesFach1::~dlgNeuesFach1() = default;
 
 void dlgNeuesFach1::showEvent(QShowEvent* Ereignis) {
     QDialog::showEvent(Ereignis);
+    // On a small screen Qt opens a dialog too low for texts that break over several lines.
+    resize(width(), qMax(height(), layout()->totalHeightForWidth(width())));
     Form->txtKlasse->setText(NeueKlasseName);
     Form->txtFach->setText(NeuesFachName);
     KnoepfePruefen();

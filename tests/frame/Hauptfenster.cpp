@@ -7,10 +7,9 @@
 #include <QTimer>
 #include <QtTest>
 
-void Hauptfenster::OrdnerAnlegen(const Testwelt& Welt) {
-    Q_UNUSED(Welt)
-    const QString Name = QStringLiteral("Tafelquell.ini");
-    QVERIFY(QFile::copy(QStringLiteral(LIEFERDATEN) + u'/' + Name, Programmverzeichnis() + u'/' + Name));
+void Hauptfenster::OrdnerAnlegen() {
+    for (const QString& Name : {QStringLiteral("Tafelquell.ini"), QStringLiteral("Formulierungen.txt")})
+        QVERIFY(QFile::copy(QStringLiteral(LIEFERDATEN) + u'/' + Name, Programmverzeichnis() + u'/' + Name));
     EinstellungSchreiben(QStringLiteral("ErstesMal"), QStringLiteral("nein"));
 }
 

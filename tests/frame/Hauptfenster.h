@@ -14,7 +14,7 @@
 class Hauptfenster {
   public:
     /// The folders as a first start finds them, but the notice has been shown.
-    static void OrdnerAnlegen(const Testwelt& Welt);
+    static void OrdnerAnlegen();
 
     void Starten();
     void Schliessen() { Fenster.reset(); }

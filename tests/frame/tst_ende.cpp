@@ -1,5 +1,7 @@
 #include "Hauptfenster.h"
+#include "common/Testbuch.h"
 #include "common/Testprogramm.h"
+#include "core/Datenbankdatei.h"
 #include "core/Definitionen.h"
 #include "core/Einstellungen.h"
 #include "core/Orte.h"
@@ -16,6 +18,7 @@ class TestEnde : public QObject {
     Testwelt Welt;
     Hauptfenster Fenster;
     const QString Frage = QStringLiteral("Möchten Sie die Änderungen in Unbenannt speichern?");
+    const QString FrageFormulierungen = QStringLiteral("Möchten Sie die Formulierungs-Änderungen in ");
 
     int Gespeichert(const char* Schluessel) const {
         return EinstellungLesen(QString::fromUtf8(Schluessel), QStringLiteral("-1")).toInt();
@@ -24,7 +27,7 @@ class TestEnde : public QObject {
   private Q_SLOTS:
     void init() {
         Welt.Herstellen();
-        Hauptfenster::OrdnerAnlegen(Welt);
+        Hauptfenster::OrdnerAnlegen();
         Fenster.Starten();
     }
     void cleanup() {
@@ -37,13 +40,31 @@ class TestEnde : public QObject {
         QVERIFY(!Fenster->isVisible());
     }
 
-    void BeendenMitAbbrechenLaesstDasProgrammLaufen() {
-        DatenGeaendert = true;
-        Welt.Boxen.ErwarteFrage(Frage, Antwort::Abbrechen);
+    void BeendenFragtBeidesUndAbbrechenLaesstDasProgrammLaufen_data() {
+        QTest::addColumn<int>("Erste");
+        QTest::addColumn<int>("Zweite");
+        QTest::newRow("bei den Formulierungen") << int(Antwort::Abbrechen) << int(Antwort::Nein);
+        QTest::newRow("bei der Datenbank") << int(Antwort::Nein) << int(Antwort::Abbrechen);
+        QTest::newRow("bei beiden") << int(Antwort::Abbrechen) << int(Antwort::Abbrechen);
+    }
+    void BeendenFragtBeidesUndAbbrechenLaesstDasProgrammLaufen() {
+        QFETCH(int, Erste);
+        QFETCH(int, Zweite);
+        DatenGeaendert = FormulierungenGeaendert = true;
+        Welt.Boxen.ErwarteFrage(FrageFormulierungen, Antwort(Erste));
+        Welt.Boxen.ErwarteFrage(Frage, Antwort(Zweite));
         Fenster.Aktion("mnuFileExit")->trigger();
         QVERIFY(Fenster->isVisible());
-        QVERIFY(DatenGeaendert);
-        DatenGeaendert = false;
+        QVERIFY(Welt.Boxen.AllesGefragt());
+        DatenGeaendert = FormulierungenGeaendert = false;
+    }
+
+    void DasSchliessfeldFragtErstNachDerDatenbankDannNachDenFormulierungen() {
+        DatenGeaendert = FormulierungenGeaendert = true;
+        Welt.Boxen.ErwarteFrage(Frage, Antwort::Abbrechen);
+        Welt.Boxen.ErwarteFrage(FrageFormulierungen, Antwort::Abbrechen);
+        Fenster->close();
+        QVERIFY(!Fenster->isVisible());
     }
 
     void BeendenMitNeinFragtNurEinmal() {
@@ -114,6 +135,40 @@ class TestEnde : public QObject {
         Fenster->close();
         QCOMPARE(Gespeichert("MainLeft"), 1500);
         QCOMPARE(Gespeichert("MainWidth"), 15000);
+    }
+
+    void EinSignalRettetUngespeichertesFuerDenNaechstenStart() {
+        const QString Pfad = Welt.Pfad(QStringLiteral("klasse.txt"));
+        TestbuchLaden(QStringLiteral("Klasse 7a"));
+        SpeichernDatenbank3(Pfad);
+        const QByteArray Alt = Testwelt::DateiInhalt(Pfad);
+        TestbuchLaden(QStringLiteral("Klasse 8b"));
+        DatenGeaendert = true;
+        const Sitzungsende Waechter(*Fenster);
+        QTimer::singleShot(0, this, [] { ::raise(SIGTERM); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QCOMPARE(Testwelt::DateiInhalt(Pfad), Alt);
+        Fenster.Schliessen();
+
+        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), 0);
+        Fenster.Starten();
+        QCOMPARE(Datenbank.AnzKlassen, qint16(2));
+        QCOMPARE(Datenbank.Klassen[1].Name, QStringLiteral("8b"));
+    }
+
+    void EinSignalRettetAuchEinBuchOhneDatei() {
+        TestbuchLaden(QStringLiteral("Klasse 8b"));
+        DatenGeaendert = true;
+        const Sitzungsende Waechter(*Fenster);
+        QTimer::singleShot(0, this, [] { ::raise(SIGHUP); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+        Fenster.Schliessen();
+
+        const QString Pfad = Welt.Pfad(QStringLiteral("gerettet.txt"));
+        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Die Datei"), 0);
+        Welt.Boxen.ErwarteSpeichern(QStringLiteral("Speichern unter..."), Dateiwahl{Pfad, 1});
+        Fenster.Starten();
+        QVERIFY(Testwelt::DateiInhalt(Pfad).contains("\t8b"));
     }
 
     void EinSignalBeendetOhneFrageUndBewahrtDieLage() {

@@ -46,7 +46,7 @@ class TestHauptfenster : public QObject {
   private Q_SLOTS:
     void init() {
         Welt.Herstellen();
-        Hauptfenster::OrdnerAnlegen(Welt);
+        Hauptfenster::OrdnerAnlegen();
     }
     void cleanup() {
         Fenster.Schliessen();
@@ -94,11 +94,13 @@ class TestHauptfenster : public QObject {
     void JedesBedienelementHatEinenNamenFuerVorleser() {
         Fenster.Starten();
         for (QWidget* Feld : Fenster->findChildren<QWidget*>()) {
-            if (Feld->focusPolicy() == Qt::NoFocus || !Feld->isVisible())
+            if (Feld->focusPolicy() == Qt::NoFocus || Feld->focusProxy() || !Feld->isVisible())
                 continue;
             const auto* Zugang = QAccessible::queryAccessibleInterface(Feld);
             if (Zugang && Zugang->role() != QAccessible::PageTabList)
-                QVERIFY2(!Zugang->text(QAccessible::Name).isEmpty(), qPrintable(Feld->objectName()));
+                QVERIFY2(!Zugang->text(QAccessible::Name).isEmpty(),
+                         qPrintable(QString::fromLatin1(Feld->metaObject()->className()) + u' ' +
+                                    Feld->objectName()));
         }
     }
 
@@ -137,6 +139,12 @@ class TestHauptfenster : public QObject {
         QVERIFY(Welt.Boxen.Gezeigt.first().Text.contains(Pfad));
         QCOMPARE(Fenster->windowTitle(), QStringLiteral("Tafelquell 3.1 - Unbenannt"));
         QCOMPARE(EinstellungLesen(QStringLiteral("AutoDatei"), {}), Unbenannt);
+    }
+
+    void DieFormulierungenDesProgrammverzeichnissesWerdenGeladen() {
+        Fenster.Starten();
+        QVERIFY(AnzLernbereiche > 0);
+        QVERIFY(!FormulierungenGeaendert);
     }
 
     void DieEinstellungPassbildKommtWiederUndBleibt() {
@@ -185,9 +193,8 @@ class TestHauptfenster : public QObject {
         Fenster.Starten();
         auto* Flaeche = Fenster.Kind<Ansicht>("picAnsicht_1");
         Q_EMIT Flaeche->HinweisGewuenscht(QStringLiteral("Hinweis"));
-        const QPoint Rand(Flaeche->width() - 2, Flaeche->height() - 2);
-        QTest::mouseMove(Flaeche, Rand - QPoint(1, 1));
-        QTest::mouseMove(Flaeche, Rand);
+        QTest::mouseMove(Flaeche, QPoint(1, 1));
+        QTest::mouseMove(Flaeche, QPoint(2, 2));
         QTRY_COMPARE(Hinweis(), QString());
     }
 

@@ -88,7 +88,7 @@ class TestMenue : public QObject {
   private Q_SLOTS:
     void init() {
         Welt.Herstellen();
-        Hauptfenster::OrdnerAnlegen(Welt);
+        Hauptfenster::OrdnerAnlegen();
         Fenster.Starten();
     }
     void cleanup() {

@@ -24,7 +24,7 @@ class TestProgrammstart : public QObject {
   private Q_SLOTS:
     void init() {
         Welt.Herstellen();
-        Hauptfenster::OrdnerAnlegen(Welt);
+        Hauptfenster::OrdnerAnlegen();
     }
     void cleanup() { Welt.Aufraeumen(); }
 

@@ -35,7 +35,7 @@ class TestZwischenablage : public QObject {
   private Q_SLOTS:
     void init() {
         Welt.Herstellen();
-        Hauptfenster::OrdnerAnlegen(Welt);
+        Hauptfenster::OrdnerAnlegen();
         Fenster.Starten();
         Ablage().setText(QStringLiteral("alt"));
     }

@@ -10,6 +10,7 @@
 #include <QPixmap>
 #include <QTabWidget>
 #include <QTest>
+#include <QThread>
 
 #include <unistd.h>
 
@@ -45,7 +46,7 @@ const Treiber::Regel* Treiber::RegelFuer(const Befehl& Einer) {
 
 /// One step if it can be done now. Runs in nested event loops too.
 void Treiber::Takt() {
-    if (Unbegonnen > 0)
+    if (Unbegonnen > 0 || FensterGehtNoch())
         return;
     if (KastenBeantworten()) {
         Schrittzeit.restart();
@@ -68,20 +69,22 @@ void Treiber::Takt() {
     }
 }
 
-/// A box that no step waits for gets the first standing answer that it offers.
+/// A box or file dialog that no step waits for gets the first standing answer that it offers.
 bool Treiber::KastenBeantworten() {
-    QMessageBox* const Kasten = OffenerKasten();
-    const bool Erwartet = Naechster < Skript.size() && Skript[Naechster].Name == QStringLiteral("knopf");
-    if (!Kasten || Erwartet || Standantworten.isEmpty())
+    QWidget* const Kasten = OffenerKasten() ? static_cast<QWidget*>(OffenerKasten()) : OffenerDateidialog();
+    const QString Erwarteter = Naechster < Skript.size() ? Skript[Naechster].Name : QString();
+    const QString Passender = OffenerKasten() ? QStringLiteral("knopf") : QStringLiteral("datei");
+    if (!Kasten || Erwarteter == Passender || Standantworten.isEmpty())
         return false;
-    Melden(QStringLiteral("KASTEN"), Kasten->text());
+    const QString Text = OffenerKasten() ? OffenerKasten()->text() : Kasten->windowTitle();
+    Melden(QStringLiteral("KASTEN"), Text);
     for (const QString& Antwort : Standantworten) {
         if (QAbstractButton* const Einer = KnopfFinden(Kasten, Antwort)) {
-            Spaeter([Einer] { Einer->click(); });
+            Beantworten(Kasten, [Einer] { Einer->click(); });
             return true;
         }
     }
-    Aufgeben(QStringLiteral("keine Antwort auf: ") + Kasten->text());
+    Aufgeben(QStringLiteral("keine Antwort auf: ") + Text);
 }
 
 Treiber::Stand Treiber::Schritt(const Befehl& Einer) {
@@ -91,6 +94,19 @@ Treiber::Stand Treiber::Schritt(const Befehl& Einer) {
     if ((OffenerKasten() || OffenerDateidialog()) && !Eine->BeiKasten)
         return Stand::Wartend;
     return (this->*Eine->Ausfuehren)(Einer.Argumente);
+}
+
+/// A box that was answered is closed, but its caller has not yet gone on: what it does with the answer is
+/// still to come.
+bool Treiber::FensterGehtNoch() const {
+    return Beantwortetes && !Beantwortetes->isVisible() && thread()->loopLevel() >= Stufe &&
+           !QApplication::activeModalWidget();
+}
+
+void Treiber::Beantworten(QWidget* Fenster, const std::function<void()>& Tat) {
+    Beantwortetes = Fenster;
+    Stufe = thread()->loopLevel();
+    Spaeter(Tat);
 }
 
 /// What may open a box runs from the event queue: the clock goes on meanwhile.
@@ -105,9 +121,19 @@ void Treiber::Spaeter(const std::function<void()>& Tat) {
         Qt::QueuedConnection);
 }
 
+/// A user's keys reach only the active window; after a box another may be. Where no window manager answers,
+/// the step goes on after a while.
+bool Treiber::Aktiviert(const QWidget* Ziel) const {
+    constexpr int Geduld = 1000;
+    if (Ziel->window()->isActiveWindow() || Schrittzeit.elapsed() > Geduld)
+        return true;
+    Ziel->window()->activateWindow();
+    return false;
+}
+
 Treiber::Stand Treiber::AnWidget(const QString& Name, const std::function<void(QWidget*)>& Tat) {
     QWidget* const Ziel = Name == QStringLiteral("-") ? QApplication::focusWidget() : Finden(Name);
-    if (!Ziel)
+    if (!Ziel || !Aktiviert(Ziel))
         return Stand::Wartend;
     Spaeter([Ziel, Tat] { Tat(Ziel); });
     return Stand::Fertig;
@@ -184,7 +210,7 @@ Treiber::Stand Treiber::Knopf(const QStringList& Worte) {
     QAbstractButton* const Einer = KnopfFinden(Fenster, Worte[0]);
     if (!Einer)
         return Stand::Falsch;
-    Spaeter([Einer] { Einer->click(); });
+    Beantworten(Fenster, [Einer] { Einer->click(); });
     return Stand::Fertig;
 }
 
@@ -192,7 +218,7 @@ Treiber::Stand Treiber::Datei(const QStringList& Worte) {
     QFileDialog* const Dialog = OffenerDateidialog();
     if (!Dialog)
         return Stand::Wartend;
-    Spaeter([Dialog, Worte] { DateiEintragen(Dialog, Worte[0]); });
+    Beantworten(Dialog, [Dialog, Worte] { DateiEintragen(Dialog, Worte[0]); });
     return Stand::Fertig;
 }
 

@@ -5,7 +5,9 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
+#include <QWidget>
 
 #include <functional>
 
@@ -32,7 +34,10 @@ class Treiber : public QObject {
     void Takt();
     bool KastenBeantworten();
     Stand Schritt(const Befehl& Einer);
+    bool FensterGehtNoch() const;
+    void Beantworten(QWidget* Fenster, const std::function<void()>& Tat);
     void Spaeter(const std::function<void()>& Tat);
+    bool Aktiviert(const QWidget* Ziel) const;
     Stand AnWidget(const QString& Name, const std::function<void(QWidget*)>& Tat);
     void Melden(const QString& Art, const QString& Text);
     [[noreturn]] void Aufgeben(const QString& Grund);
@@ -56,7 +61,9 @@ class Treiber : public QObject {
 
     QList<Befehl> Skript;
     qsizetype Naechster = 0;
-    int Unbegonnen = 0; ///< actions that are queued and have not yet started
+    int Unbegonnen = 0;              ///< actions that are queued and have not yet started
+    QPointer<QWidget> Beantwortetes; ///< the last box that was answered
+    int Stufe = 0;                   ///< depth of event loops when that was
     int Frist;
     QStringList Standantworten;
     QElapsedTimer Schrittzeit;
