@@ -194,6 +194,19 @@ class TestAuswahl : public QObject {
             QCOMPARE(Tabelle()->TextMatrix(Zeile, 0), QString());
     }
 
+    void DerVergleichFindetEineFalscheZelle_data() {
+        QTest::addColumn<int>("Nummer");
+        for (int Nummer = 0; Nummer < AnzahlAnsichten; ++Nummer)
+            QTest::addRow("Reiter %d", Nummer) << Nummer;
+    }
+    void DerVergleichFindetEineFalscheZelle() {
+        QFETCH(int, Nummer);
+        ZumReiter(Nummer);
+        QCOMPARE(Abweichungen(*Fenster), QStringList());
+        Tabelle()->setTextMatrix(Tabelle()->FixedRows(), 0, QStringLiteral("falsch"));
+        QCOMPARE(Abweichungen(*Fenster).size(), 1);
+    }
+
     void EinZufaelligerWegZeigtImmerWasInDenSaetzenSteht_data() {
         QTest::addColumn<quint32>("Saat");
         for (quint32 Saat = 1; Saat <= 12; ++Saat)
@@ -209,6 +222,7 @@ class TestAuswahl : public QObject {
             QVERIFY2(Falsch.isEmpty(),
                      qPrintable(Weg.mid(qMax(0, Nummer - 5)).join(u'\n') + u'\n' + Falsch.join(u'\n')));
         }
+        QVERIFY2(DatenGeaendert, "auf dem ganzen Weg wurde nichts eingegeben");
     }
 };
 
