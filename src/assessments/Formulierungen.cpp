@@ -8,6 +8,7 @@
 #include "core/Meldungen.h"
 #include "core/Oberflaeche.h"
 #include "core/Orte.h"
+#include "core/Rettung.h"
 
 #include <optional>
 
@@ -202,6 +203,7 @@ void FormulierungenOeffnen() {
     if (!FormulierungenAbfrage())
         return;
     if (const auto Pfad = LadepfadErfragen(QStringLiteral("Öffnen"))) {
+        RettungAnbietenFuer(*Pfad);
         Laden(*Pfad);
         AktuelleOberflaeche().LernbereicheFuellen();
     }
@@ -210,6 +212,7 @@ void FormulierungenOeffnen() {
 void FormulierungenHinzufuegen() {
     AktuelleOberflaeche().FokusNehmen();
     if (const auto Pfad = LadepfadErfragen(QStringLiteral("Hinzufügen"))) {
+        RettungAnbietenFuer(*Pfad);
         FormulierungenLaden(*Pfad, true);
         AktuelleOberflaeche().LernbereicheFuellen();
     }

@@ -5,6 +5,7 @@
 #include "controls/Zellfarben.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 
 EingabeFeld::EingabeFeld(Gitter* Eigner)
     : Textfeld(Eigner)
@@ -65,6 +66,16 @@ void EingabeFeld::changeEvent(QEvent* Ereignis) {
     Textfeld::changeEvent(Ereignis);
     if (Ereignis->type() == QEvent::ApplicationPaletteChange)
         FarbeSetzen(Farbe);
+}
+
+/// The frame that the current cell of the grid has; the box covers it.
+void EingabeFeld::paintEvent(QPaintEvent* Ereignis) {
+    Textfeld::paintEvent(Ereignis);
+    if (!hasFocus())
+        return;
+    QPainter Stift(this);
+    Stift.setPen(palette().color(QPalette::Highlight));
+    Stift.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void EingabeFeld::FarbeSetzen(const QColor& Schriftfarbe) {

@@ -36,6 +36,7 @@ class EingabeFeld : public Textfeld {
     bool event(QEvent* Ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent* Ereignis) override;
     void changeEvent(QEvent* Ereignis) override;
+    void paintEvent(QPaintEvent* Ereignis) override;
 
   private:
     Gitter* Tabelle;

@@ -106,8 +106,9 @@ class Gitter : public QTableView {
     void setRowHeight(int Zeile, int Hoehe);
     int RowHeight(int Zeile) const;
     void setRowHeights(int Erste, const std::vector<int>& Hoehen); ///< of several rows, in one go
-    /// Widths as shares of the width available; they follow every change of size. Empty: widths stay as set.
-    void setColShares(const QList<double>& Anteile);
+    /// Widths as shares of the width available, or of NeueMindestbreite where that is more; they follow every
+    /// change of size. Empty: widths stay as set.
+    void setColShares(const QList<double>& Neue, int NeueMindestbreite = 0);
     int RowAt(int Y) const; ///< row at this y of the grid's own coordinates, -1 if none
     int ColAt(int X) const;
 
@@ -183,6 +184,7 @@ class Gitter : public QTableView {
 
     Gittermodell* Modell;
     QList<double> Anteile;
+    int Mindestbreite = 0; ///< that the shares are taken of
     int Stille = 0;
     bool Umbruch = false;
     bool LageVeraltet = false;

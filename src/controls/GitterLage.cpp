@@ -149,18 +149,20 @@ int Gitter::RowHeight(int Zeile) const {
     return Zeile >= 0 && Zeile < Rows() ? rowHeight(Zeile) : 0;
 }
 
-void Gitter::setColShares(const QList<double>& Neue) {
+void Gitter::setColShares(const QList<double>& Neue, int NeueMindestbreite) {
     Anteile = Neue;
+    Mindestbreite = NeueMindestbreite;
     updateGeometries();
 }
 
 /// The last column takes what rounding leaves, so that the sum is the width available.
 void Gitter::AnteileAnwenden() {
+    const int Breite = qMax(viewport()->width(), Mindestbreite);
     double Summe = 0;
     int Vergeben = 0;
     for (int s = 0; s < qMin(static_cast<int>(Anteile.size()), Cols()); ++s) {
         Summe += Anteile[s];
-        const int Ende = static_cast<int>(Summe * viewport()->width() + 1e-6);
+        const int Ende = static_cast<int>(Summe * Breite + 1e-6);
         if (columnWidth(s) != Ende - Vergeben)
             setColumnWidth(s, Ende - Vergeben);
         Vergeben = Ende;

@@ -7,7 +7,8 @@
 
 namespace {
 
-constexpr int Rand = 3; ///< between a cell's edge and its text
+constexpr int Rand = 3;    ///< between a cell's edge and its text
+constexpr int Notrand = 1; ///< the least of it, before a text is cut short
 
 } // namespace
 
@@ -107,13 +108,14 @@ void Gittermaler::TextMalen(const Zelltext& Text) {
     const int Breite = Tabelle.Modell->Textbreite(
         Text.Zeile, Text.Spalte, [&Mass](const QString& Zeichen) { return Mass.horizontalAdvance(Zeichen); });
     const int Grundlinie = Text.Platz.top() + (Text.Platz.height() - Mass.height()) / 2 + Mass.ascent();
-    if (Breite > Text.Platz.width()) {
+    const int Frei = Text.Platz.width() - Breite;
+    if (Frei + 2 * (Rand - Notrand) < 0) {
         Stift.drawText(QPoint(Text.Platz.left(), Grundlinie),
                        Mass.elidedText(Inhalt, Qt::ElideRight, Text.Platz.width()));
         return;
     }
-    const int Frei = Text.Platz.width() - Breite;
-    const int Vorlauf = Seite & Qt::AlignHCenter ? Frei / 2 : Seite & Qt::AlignRight ? Frei : 0;
+    const bool Mitten = Frei < 0 || Seite.testFlag(Qt::AlignHCenter);
+    const int Vorlauf = Mitten ? Frei / 2 : Seite.testFlag(Qt::AlignRight) ? Frei : 0;
     Stift.drawText(QPoint(Text.Platz.left() + Vorlauf, Grundlinie), Inhalt);
 }
 

@@ -186,17 +186,12 @@ int DateiUmbenennen(const QByteArray& Alt, const QByteArray& Neu) {
 }
 
 int EchterPfad(const QByteArray& Pfad, QByteArray* Echter) {
-    constexpr int Versuche = 100;
-    for (int Versuch = 1;; ++Versuch) {
-        const std::unique_ptr<char, void (*)(void*)> Text(Aufrufe().Realpath(Pfad.constData(), nullptr),
-                                                          std::free);
-        if (Text) {
-            *Echter = QByteArray(Text.get());
-            return 0;
-        }
-        if (errno != EINTR || Versuch == Versuche)
-            return errno;
-    }
+    char* const Text = Beharrlich([&] { return Aufrufe().Realpath(Pfad.constData(), nullptr); }, nullptr);
+    if (!Text)
+        return errno;
+    const std::unique_ptr<char, void (*)(void*)> Eigner(Text, std::free);
+    *Echter = QByteArray(Text);
+    return 0;
 }
 
 QByteArray OrdnerVon(const QByteArray& Pfad) {

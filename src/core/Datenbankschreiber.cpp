@@ -13,15 +13,15 @@ class Kopfschreiber {
   public:
     explicit Kopfschreiber(Zeilenschreiber& Ziel)
         : Z(Ziel) {}
-    void Zahl(QStringView Name, qint32 /*Wert*/) { Z.Feld(Name.toString()); }
-    void Text(QStringView Name, const QString& /*Wert*/) { Z.Feld(Name.toString()); }
-    void Teilnahme(QStringView Name, const QString& /*Wert*/) { Z.Feld(Name.toString()); }
-    void Wahrheit(QStringView Name, bool /*Wert*/) { Z.Feld(Name.toString()); }
-    void Kommazahl(QStringView Name, float /*Wert*/) { Z.Feld(Name.toString()); }
+    void Zahl(QStringView Name, qint32 /*Wert*/) { Z.Name(Name); }
+    void Text(QStringView Name, const QString& /*Wert*/) { Z.Name(Name); }
+    void Teilnahme(QStringView Name, const QString& /*Wert*/) { Z.Name(Name); }
+    void Wahrheit(QStringView Name, bool /*Wert*/) { Z.Name(Name); }
+    void Kommazahl(QStringView Name, float /*Wert*/) { Z.Name(Name); }
     template <class Reihe>
     void Texte(QStringView Name, const Reihe& /*Werte*/, int Von, int Bis) {
         for (int i = Von; i <= Bis; ++i)
-            Z.Feld(Name.toString() + QString::number(i));
+            Z.Name(Name, i);
     }
     template <class Reihe>
     void Freie(const Reihe& /*Werte*/, int Von, int Bis) {

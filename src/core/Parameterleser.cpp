@@ -7,7 +7,8 @@
 #include "core/Parameterabschnitte.h"
 
 #include <QCoreApplication>
-#include <QStringList>
+
+#include <array>
 
 namespace {
 
@@ -33,34 +34,47 @@ QString Ablehnung(std::string_view Kopf) {
            QCoreApplication::translate("Parameterleser", " der Tafelquell!");
 }
 
-void NotenwerteSetzen(Reihe<float, 5>& Ziel, const QStringList& Felder) {
-    for (int Note = 0; Note < Ziel.size(); ++Note)
-        Ziel[Note] = ZahlAusText(Felder.value(Note + 1));
+/// The first six fields of a row; no section has more.
+using Zeilenfelder = std::array<QString, 6>;
+
+Zeilenfelder Zerlegen(std::string_view Zeile) {
+    Zeilenfelder Felder;
+    for (QString& Feld : Felder) {
+        const std::size_t Tab = Zeile.find('\t');
+        Feld = AlsText(Zeile.substr(0, Tab));
+        Zeile.remove_prefix(Tab == Zeile.npos ? Zeile.size() : Tab + 1);
+    }
+    return Felder;
 }
 
-void VerteilungszeileLesen(Reihe<Reihe<float, 5>, 5>& Verteilung, int Satz, const QStringList& Felder) {
+void NotenwerteSetzen(Reihe<float, 5>& Ziel, const Zeilenfelder& Felder) {
+    for (int Note = 0; Note < Ziel.size(); ++Note)
+        Ziel[Note] = ZahlAusText(Felder[static_cast<std::size_t>(Note) + 1]);
+}
+
+void VerteilungszeileLesen(Reihe<Reihe<float, 5>, 5>& Verteilung, int Satz, const Zeilenfelder& Felder) {
     if (Satz < Verteilung.size())
         NotenwerteSetzen(Verteilung[Satz], Felder);
 }
 
-void PunktezeileLesen(const QStringList& Felder) {
+void PunktezeileLesen(const Zeilenfelder& Felder) {
     constexpr int KleinsteGesamtzahl = 10;
-    const int Gesamtzahl = GanzzahlAusText(Felder.value(0));
+    const int Gesamtzahl = GanzzahlAusText(Felder[0]);
     if (Gesamtzahl >= KleinsteGesamtzahl && Gesamtzahl < BLLVVerteilung.size())
         NotenwerteSetzen(BLLVVerteilung[Gesamtzahl], Felder);
 }
 
-void BezeichnungszeileLesen(const QStringList& Felder) {
-    const int Stufe = GanzzahlAusText(Felder.value(0));
+void BezeichnungszeileLesen(const Zeilenfelder& Felder) {
+    const int Stufe = GanzzahlAusText(Felder[0]);
     if (Stufe < 1 || Stufe >= Probenbezeichnung.size())
         return;
-    Probenbezeichnung[Stufe] = Felder.value(1);
-    ExtemporalenBezeichnung[Stufe] = Felder.value(2);
+    Probenbezeichnung[Stufe] = Felder[1];
+    ExtemporalenBezeichnung[Stufe] = Felder[2];
 }
 
 /// Satz is the number of the row in its section, from 0.
 void ZeileLesen(std::string_view Abschnitt, int Satz, std::string_view Zeile) {
-    const QStringList Felder = AlsText(Zeile).split(u'\t');
+    const Zeilenfelder Felder = Zerlegen(Zeile);
     if (Abschnitt == Eigene)
         VerteilungszeileLesen(EigeneVerteilung, Satz, Felder);
     else if (Abschnitt == Gauss)

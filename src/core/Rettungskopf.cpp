@@ -103,7 +103,7 @@ QByteArray RettungskopfBytes(const Rettungskopf& Kopf) {
 
 std::optional<GelesenerKopf> RettungskopfLesen(const QByteArray& Bytes) {
     const qsizetype Leerzeile = Bytes.left(LaengsterKopf).indexOf("\n\n");
-    if (Leerzeile < 0)
+    if (Leerzeile < 0 || !Bytes.startsWith(Kennung))
         return {};
     const QByteArray Ganz = Bytes.left(Leerzeile + 2);
     const qsizetype Letzte = Ganz.lastIndexOf('\n', Leerzeile - 1) + 1;

@@ -13,9 +13,17 @@ void Zeilenschreiber::Feld(const QString& Text) {
 
 void Zeilenschreiber::Feld(qint32 Zahl) {
     Trennen();
-    std::array<char, 12> Ziffern{};
-    const auto Ende = std::to_chars(Ziffern.data(), Ziffern.data() + Ziffern.size(), Zahl).ptr;
-    Geschrieben.append(Ziffern.data(), Ende - Ziffern.data());
+    Ziffern(Zahl);
+}
+
+void Zeilenschreiber::Name(QStringView Text) {
+    Trennen();
+    InCodeseite(QString::fromRawData(Text.data(), Text.size()), Geschrieben);
+}
+
+void Zeilenschreiber::Name(QStringView Text, int Nummer) {
+    Name(Text);
+    Ziffern(Nummer);
 }
 
 void Zeilenschreiber::ZeileEnden() {
@@ -31,6 +39,12 @@ void Zeilenschreiber::Zeile(std::string_view Inhalt) {
 void Zeilenschreiber::Textzeile(const QString& Inhalt) {
     InCodeseite(Inhalt, Geschrieben);
     ZeileEnden();
+}
+
+void Zeilenschreiber::Ziffern(qint32 Zahl) {
+    std::array<char, 12> Puffer{};
+    const auto Ende = std::to_chars(Puffer.data(), Puffer.data() + Puffer.size(), Zahl).ptr;
+    Geschrieben.append(Puffer.data(), Ende - Puffer.data());
 }
 
 void Zeilenschreiber::Trennen() {

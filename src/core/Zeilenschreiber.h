@@ -12,6 +12,9 @@ class Zeilenschreiber {
     /// Appends a field to the line, behind a tab unless it is the first.
     void Feld(const QString& Text);
     void Feld(qint32 Zahl);
+    /// A field that is the name of a column, with a number behind it where there are several.
+    void Name(QStringView Text);
+    void Name(QStringView Text, int Nummer);
     void ZeileEnden();
 
     /// A whole line; the bytes are those of the file.
@@ -22,6 +25,7 @@ class Zeilenschreiber {
 
   private:
     void Trennen();
+    void Ziffern(qint32 Zahl);
 
     QByteArray Geschrieben;
     bool ZeileLeer = true;

@@ -23,6 +23,7 @@ struct Ansichtseintrag {
     bool Exportiert = false;
 };
 
+// clang-format off: one line a view
 constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
     {"Schüler- und Fächerliste", Neue<AnsichtS>, true},
     {"Probenauswertung", Neue<AnsichtP>, false},
@@ -30,6 +31,7 @@ constexpr Ansichtseintrag Ansichten[AnzahlAnsichten] = {
     {"Notenliste eines Schülers", Neue<AnsichtN2>, false},
     {"Beurteilungen", Neue<AnsichtB>, true},
 };
+// clang-format on
 
 const Ansichtseintrag& Eintrag(int Nummer) {
     if (Nummer < 0 || Nummer >= AnzahlAnsichten)

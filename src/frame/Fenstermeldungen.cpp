@@ -1,9 +1,11 @@
 #include "frame/Fenstermeldungen.h"
 
+#include "core/AutoDatei.h"
 #include "core/Definitionen.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -87,12 +89,18 @@ QStringList Filtertexte(const Dateiwunsch& Wunsch) {
     return Texte;
 }
 
-/// Folder of the preset; without one the user's documents.
+/// Where a dialog without a preset folder begins: beside the open grade book, else at the user's documents.
+QString Anfangsordner() {
+    const QFileInfo Offene(AutoDatei());
+    if (Offene.isAbsolute() && Offene.dir().exists())
+        return Offene.absolutePath();
+    const QString Dokumente = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(Dokumente).isDir() ? Dokumente : QDir::homePath();
+}
+
 void VorgabeSetzen(QFileDialog& Dialog, const QString& Vorgabe) {
     const QFileInfo Datei(Vorgabe);
-    Dialog.setDirectory(Datei.isAbsolute()
-                            ? Datei.absolutePath()
-                            : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    Dialog.setDirectory(Datei.isAbsolute() ? Datei.absolutePath() : Anfangsordner());
     if (!Datei.fileName().isEmpty())
         Dialog.selectFile(Datei.fileName());
 }
@@ -113,6 +121,7 @@ std::optional<Dateiwahl> DateiWaehlen(QFileDialog& Dialog, const Dateiwunsch& Wu
     Dialog.setNameFilters(Filter);
     VorgabeSetzen(Dialog, Wunsch.Vorgabe);
     Beschriften(Dialog, Annehmen);
+    Dialog.resize(760, 480);
     if (Dialog.exec() != QDialog::Accepted || Dialog.selectedFiles().isEmpty())
         return {};
     const auto Index = qMax(qsizetype(0), Filter.indexOf(Dialog.selectedNameFilter()));

@@ -1,5 +1,6 @@
 #include "frame/frmMain.h"
 
+#include "assessments/AnsichtB.h"
 #include "assessments/Formulierungen.h"
 #include "controls/Ansicht.h"
 #include "controls/Kombinationsfeld.h"
@@ -53,7 +54,10 @@ frmMain::~frmMain() {
 
 void frmMain::Laden() {
     FormularBereit = false;
-    setGeometry(FensterlageLesen());
+    // The place is the frame's, so that a window put back does not wander by the height of its title.
+    const QRect Lage = FensterlageLesen();
+    move(Lage.topLeft());
+    resize(Lage.size());
     Datenbank.AnzSchueler = Datenbank.AnzKlassen = Datenbank.AnzFaecher = 0;
     Datenbank.AnzNoten = Datenbank.AnzZSchueler = 0;
     DatenGeaendert = FormulierungenGeaendert = false;
@@ -124,6 +128,22 @@ void frmMain::AnsichtAktualisieren() {
     EintragErlauben(QStringLiteral("mnuFileImport"), false);
     picAnsicht.at(Nummer)->Fuellen();
     Hinweis({});
+}
+
+template <class Art>
+Art* frmMain::Sicht() const {
+    for (Ansicht* Eine : picAnsicht)
+        if (auto* Gesuchte = qobject_cast<Art*>(Eine))
+            return Gesuchte;
+    return nullptr;
+}
+
+void frmMain::LernbereicheFuellen() {
+    Sicht<AnsichtB>()->LernbereicheFuellen();
+}
+
+void frmMain::FormulierungenFuellen() {
+    Sicht<AnsichtB>()->FormulierungenFuellen();
 }
 
 void frmMain::EintragErlauben(const QString& Name, bool Erlaubt) {

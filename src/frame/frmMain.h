@@ -36,6 +36,8 @@ class frmMain : public QMainWindow, public Oberflaeche {
     void TitelSetzen(const QString& Titel) override;
     void JahrgangWaehlen() override;
     void AnsichtAktualisieren() override;
+    void LernbereicheFuellen() override;
+    void FormulierungenFuellen() override;
 
     // Commands of the menu that are the window's own.
     void Beenden();         ///< mnuFileExit: both save prompts, then close unless one was cancelled
@@ -70,6 +72,8 @@ class frmMain : public QMainWindow, public Oberflaeche {
     void LetzteDateiLaden();
     void Tick();
     void UhrZeigen();
+    template <class Art>
+    Art* Sicht() const; ///< the view of this class
 
     QTabWidget* tabAnsicht = nullptr;
     QList<Ansicht*> picAnsicht;

@@ -56,6 +56,11 @@ dlgOptions::dlgOptions(QWidget* Eltern)
                    {Form->txtNotenabstand, Optionsfeld::Notenabstand},
                    {Form->txtHalbjahreswechsel, Optionsfeld::Halbjahreswechsel},
                    {Form->txtEndjahreswechsel, Optionsfeld::Endjahreswechsel}}};
+    for (QScrollArea* Seite : {Form->SeiteAllgemeines, Form->SeiteNotenberechnung}) {
+        // The ground of a tab page shines through, as on the other pages.
+        Seite->viewport()->setAutoFillBackground(false);
+        Seite->widget()->setAutoFillBackground(false);
+    }
     TabellenEinrichten();
     Verbinden();
     Laden();
@@ -68,7 +73,7 @@ dlgOptions::~dlgOptions() = default;
 void dlgOptions::Platzieren() {
     const QRect Platz = screen()->availableGeometry();
     const QFontMetrics Mass = fontMetrics();
-    resize(QSize(110 * Mass.averageCharWidth(), 38 * Mass.height()).boundedTo(Platz.size()));
+    resize(QSize(130 * Mass.averageCharWidth(), 48 * Mass.height()).boundedTo(Platz.size()));
     if (!parentWidget())
         return;
     const QPoint Ecke = parentWidget()->window()->pos() + QPoint(Gitter::TwipsInPixel(220), 0);

@@ -9,6 +9,8 @@
 #include "grading/Gesamtnoten.h"
 #include "views/Fuellsperre.h"
 
+#include <QtMath>
+
 namespace {
 
 constexpr int Halbjahrzeile = 1;
@@ -16,15 +18,24 @@ constexpr int ErsteZeile = 2;
 constexpr QRgb VonHand = qRgb(255, 0, 0);
 constexpr QRgb Berechnet = qRgb(0, 0, 0);
 
-/// Shares of the width: the name, thirty grades, and twice average and report grade.
+// Shares of the width: the name, thirty grades, and twice average and report grade.
+constexpr double AnteilNote = 0.0232;
+constexpr double AnteilDurchschnitt = 0.035;
+constexpr double AnteilZeugnis = 0.055;
+constexpr double AnteilName = 1 - 30 * AnteilNote - 2 * AnteilDurchschnitt - 2 * AnteilZeugnis;
+
 QList<double> Spaltenanteile() {
-    constexpr double Note = 0.0235;
-    constexpr double Durchschnitt = 0.035;
-    constexpr double Zeugnis = 0.0525;
-    QList<double> Anteile{1 - 30 * Note - 2 * Durchschnitt - 2 * Zeugnis};
-    Anteile.append(QList<double>(30, Note));
-    Anteile.append({Durchschnitt, Zeugnis, Durchschnitt, Zeugnis});
+    QList<double> Anteile{AnteilName};
+    Anteile.append(QList<double>(30, AnteilNote));
+    Anteile.append({AnteilDurchschnitt, AnteilZeugnis, AnteilDurchschnitt, AnteilZeugnis});
     return Anteile;
+}
+
+/// So wide that no grade is ever cut short; in a narrower window the list scrolls.
+int Mindestbreite(const QFontMetrics& Mass) {
+    const int Note =
+        qMax(Mass.horizontalAdvance(QStringLiteral("3+")), Mass.horizontalAdvance(QStringLiteral("ne")));
+    return qCeil((Note + 3) / AnteilNote);
 }
 
 Reihe<QString, 31> Notentexte(const Gitter& Tabelle, int Zeile) {
@@ -101,7 +112,7 @@ void Notenliste::GitterEinrichten() {
     Tabelle->setFixedCols(1);
     Tabelle->setMergeRow(0, true);
     Tabelle->setMergeRow(Halbjahrzeile, true);
-    Tabelle->setColShares(Spaltenanteile());
+    Tabelle->setColShares(Spaltenanteile(), Mindestbreite(Tabelle->fontMetrics()));
     for (int Spalte = 1; Spalte < Notenspalte::Anzahl; ++Spalte)
         Tabelle->setColAlignment(Spalte, Qt::AlignCenter);
     Tabelle->setTextMatrix(0, Notenspalte::Name, Art.Kopf());

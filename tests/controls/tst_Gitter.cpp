@@ -48,6 +48,7 @@ class GitterTest : public QObject {
     void currentCellIsScrolledIntoView();
     void topRowIsTheFirstBelowTheFixedOnes();
     void sharesFillTheWidthAndFollowIt();
+    void sharesNeverGoBelowTheLeastWidth();
     void sortsTextByLocaleIgnoringCaseStably();
     void sortsNumbersDescendingStably();
     void sortTakesDataColoursAndHeightsAlong();
@@ -80,13 +81,21 @@ void GitterTest::cleanup() {
 
 /// Two header rows and a name column; each cell says its place.
 void GitterTest::Fuellen(int Zeilen, int Spalten) {
-    Tabelle->setRows(Zeilen);
+    const auto Platz = [](int Zeile, int Spalte) { return QStringLiteral("%1/%2").arg(Zeile).arg(Spalte); };
     Tabelle->setCols(Spalten);
+    Tabelle->setRows(2);
     Tabelle->setFixedRows(2);
     Tabelle->setFixedCols(1);
-    for (int z = 0; z < Zeilen; ++z)
+    for (int z = 0; z < 2; ++z)
         for (int s = 0; s < Spalten; ++s)
-            Tabelle->setTextMatrix(z, s, QStringLiteral("%1/%2").arg(z).arg(s));
+            Tabelle->setTextMatrix(z, s, Platz(z, s));
+    std::vector<Gitterzeile> Rumpf(static_cast<std::size_t>(Zeilen - 3));
+    for (int z = 2; z < Zeilen - 1; ++z)
+        for (int s = 0; s < Spalten; ++s)
+            Rumpf[static_cast<std::size_t>(z - 2)].Zellen.push_back({Platz(z, s), 0, 0});
+    Tabelle->ZeilenSetzen(std::move(Rumpf));
+    for (int s = 0; s < Spalten; ++s)
+        Tabelle->setTextMatrix(Zeilen - 1, s, Platz(Zeilen - 1, s));
     Tabelle->show();
     QVERIFY(QTest::qWaitForWindowActive(Tabelle.get()));
 }
@@ -460,6 +469,17 @@ void GitterTest::sharesFillTheWidthAndFollowIt() {
                  Tabelle->viewport()->width());
         QCOMPARE(Tabelle->ColWidth(0), Tabelle->viewport()->width() / 2);
     }
+}
+
+void GitterTest::sharesNeverGoBelowTheLeastWidth() {
+    Fuellen(3, 3);
+    Tabelle->setColShares({0.5, 0.3, 0.2}, 900);
+    QCOMPARE(Tabelle->ColWidth(0), 450);
+    QVERIFY(Tabelle->horizontalScrollBar()->maximum() > 0);
+    Tabelle->resize(1200, 300);
+    QCoreApplication::processEvents();
+    QCOMPARE(Tabelle->ColWidth(0), Tabelle->viewport()->width() / 2);
+    QCOMPARE(Tabelle->horizontalScrollBar()->maximum(), 0);
 }
 
 void GitterTest::sortsTextByLocaleIgnoringCaseStably() {
