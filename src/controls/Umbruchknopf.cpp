@@ -28,7 +28,7 @@ struct Teile {
 template <class Knopf>
 Umbruchknopf<Knopf>::Umbruchknopf(QWidget* Eltern)
     : Knopf(Eltern) {
-    QSizePolicy Verhalten(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    QSizePolicy Verhalten(QSizePolicy::Preferred, QSizePolicy::Preferred);
     Verhalten.setHeightForWidth(true);
     this->setSizePolicy(Verhalten);
 }

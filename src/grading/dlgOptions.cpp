@@ -243,8 +243,13 @@ bool dlgOptions::Geprueft(const Pruefbox& Box) {
         return true;
     Beanstandet = true;
     MeldungZeigen(Ergebnis.Meldung);
-    QMetaObject::invokeMethod(
-        this, [this] { Beanstandet = false; }, Qt::QueuedConnection);
+    // The click that left the box still presses its button, but the message has swallowed the release.
+    const auto Danach = [this] {
+        Beanstandet = false;
+        for (QPushButton* Knopf : {Form->btOK, Form->btAbbruch})
+            Knopf->setDown(false);
+    };
+    QMetaObject::invokeMethod(this, Danach, Qt::QueuedConnection);
     return false;
 }
 
