@@ -63,7 +63,15 @@ AnsichtB::AnsichtB(QWidget* Eltern)
     LernbereicheFuellen();
 }
 
-AnsichtB::~AnsichtB() = default;
+/// The controls outlive this part of the view by a moment, and some still have something to tell.
+AnsichtB::~AnsichtB() {
+    EingabezaehlerAktion(Namensplatz, {});
+    const auto Teile = findChildren<QObject*>();
+    for (QObject* Teil : Teile) {
+        Teil->disconnect(this);
+        Teil->removeEventFilter(this);
+    }
+}
 
 void AnsichtB::SchuelerseiteEinrichten() {
     Gitter* Tabelle = Form->tblBeurteilungen;

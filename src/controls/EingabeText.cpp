@@ -51,6 +51,7 @@ void EingabeText::Zeigen(const QString& Neuer, QColor Grund) {
     Still = false;
     moveCursor(QTextCursor::End);
     Anker->Zeigen();
+    MarkeInSicht();
 }
 
 void EingabeText::Verbergen() {

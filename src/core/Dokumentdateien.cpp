@@ -37,18 +37,25 @@ bool ErsetzenErlaubt(const QString& Pfad) {
     return FrageJaNeinAbbrechen(Frage) == Antwort::Ja;
 }
 
+Schreibweg SchreibfehlerZeigen(const Dateifehler& Fehler) {
+    const QStringList Wege{QStringLiteral("Erneut versuchen"), QStringLiteral("Speichern unter..."),
+                           QStringLiteral("Abbrechen")};
+    switch (Meldungen().Waehlen({Fehler.Text, QStringLiteral("Nicht gespeichert"), Wege, 0})) {
+    case 0:
+        return Schreibweg::Nochmals;
+    case 1:
+        return Schreibweg::SpeichernUnter;
+    default:
+        return Schreibweg::Abbrechen;
+    }
+}
+
 Speicherausgang DokumentSchreiben(const QString& Pfad, const QByteArray& Inhalt) {
     while (const auto Fehler = DateiSchreiben(Pfad, Inhalt)) {
-        const QStringList Wege{QStringLiteral("Erneut versuchen"), QStringLiteral("Speichern unter..."),
-                               QStringLiteral("Abbrechen")};
-        switch (Meldungen().Waehlen({Fehler->Text, QStringLiteral("Nicht gespeichert"), Wege, 0})) {
-        case 0:
-            continue;
-        case 1:
-            return Speicherausgang::SpeichernUnter;
-        default:
-            return Speicherausgang::Abgebrochen;
-        }
+        const Schreibweg Weg = SchreibfehlerZeigen(*Fehler);
+        if (Weg != Schreibweg::Nochmals)
+            return Weg == Schreibweg::SpeichernUnter ? Speicherausgang::SpeichernUnter
+                                                     : Speicherausgang::Abgebrochen;
     }
     return Speicherausgang::Gespeichert;
 }
@@ -73,14 +80,20 @@ void SicherheitskopieAnlegen(const QString& Pfad, const QString& Erfolg) {
     MeldungZeigen(Kopiert ? Erfolg : Grund, {}, Kopiert ? Symbol::Ohne : Symbol::Fehler);
 }
 
-bool SicherheitskopieZurueckholen(const QString& Pfad, const std::function<QString(const QString&)>& Frage) {
+bool SicherheitskopieZurueckholen(const QString& Pfad, const std::function<QString(const QString&)>& Frage,
+                                  QString* Grund) {
     const QString Kopie = MitEndung(Pfad, QStringLiteral(".bak"));
     if (!HatDatei(Pfad) || !DateiExistiert(Kopie))
         return false;
     if (!FrageJaNein(Frage(DateiZeit(Kopie)), QStringLiteral("Sicherheitsabfrage:")))
         return false;
-    DateiKopieren(Pfad, MitEndung(Pfad, QStringLiteral("_err.txt")));
-    DateiKopieren(Kopie, Pfad);
+    const bool Bewahrt = DateiKopieren(Pfad, MitEndung(Pfad, QStringLiteral("_err.txt")), Grund);
+    // What has no copy yet is not overwritten; what is not there needs none.
+    if (Bewahrt || !DateiExistiert(Pfad)) {
+        if (Grund)
+            Grund->clear();
+        DateiKopieren(Kopie, Pfad, Grund);
+    }
     return true;
 }
 

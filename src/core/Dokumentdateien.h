@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Dateifehler.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -16,6 +18,11 @@ bool ErsetzenErlaubt(const QString& Pfad);
 
 enum class Speicherausgang { Gespeichert, SpeichernUnter, Abgebrochen };
 
+enum class Schreibweg { Nochmals, SpeichernUnter, Abbrechen };
+
+/// Tells why a document could not be written, and where its rescue copy lies, with the ways on from here.
+Schreibweg SchreibfehlerZeigen(const Dateifehler& Fehler);
+
 /// Writes the file by the procedure that never loses one. A failure is told, with a choice: once more, under
 /// another name (then the caller goes there), or not at all.
 Speicherausgang DokumentSchreiben(const QString& Pfad, const QByteArray& Inhalt);
@@ -28,10 +35,11 @@ bool DateiKopieren(const QString& Von, const QString& Nach, QString* Grund = nul
 void SicherheitskopieAnlegen(const QString& Pfad, const QString& Erfolg);
 
 /// The first half of a restore: offers the backup of the document at Pfad, and on Ja copies the document to
-/// its "_err.txt" and the backup over it, failures ignored on purpose. Frage makes the question from the date
-/// and time of the backup. False, without a word, if there is no backup or the path has less than 5
-/// characters; false too on Nein.
-bool SicherheitskopieZurueckholen(const QString& Pfad, const std::function<QString(const QString&)>& Frage);
+/// its "_err.txt" and the backup over it. A failure stops nothing, but *Grund tells of it; a document that
+/// could not be copied stays as it is. Frage makes the question from the date and time of the backup. False,
+/// without a word, if there is no backup or the path has less than 5 characters; false too on Nein.
+bool SicherheitskopieZurueckholen(const QString& Pfad, const std::function<QString(const QString&)>& Frage,
+                                  QString* Grund = nullptr);
 
 /// Before a file is overwritten by a document whose load had failed: keeps what stands in the file, as a copy
 /// in the state folder, and tells the user where. Nothing to do if there is no file. False, with a message,

@@ -9,7 +9,7 @@ import time
 
 HIER = pathlib.Path(__file__).resolve().parent
 FRIST_LAUF = 60  # seconds; a run takes a fraction of one
-LANGSAMER_SCHRITT_MS = "8000"
+LANGSAMER_SCHRITT_MS = "5000"
 
 
 class Welt:

@@ -121,9 +121,19 @@ void Treiber::Spaeter(const std::function<void()>& Tat) {
         Qt::QueuedConnection);
 }
 
+/// A user's keys reach only the active window; after a box another may be. Where no window manager answers,
+/// the step goes on after a while.
+bool Treiber::Aktiviert(const QWidget* Ziel) const {
+    constexpr int Geduld = 1000;
+    if (Ziel->window()->isActiveWindow() || Schrittzeit.elapsed() > Geduld)
+        return true;
+    Ziel->window()->activateWindow();
+    return false;
+}
+
 Treiber::Stand Treiber::AnWidget(const QString& Name, const std::function<void(QWidget*)>& Tat) {
     QWidget* const Ziel = Name == QStringLiteral("-") ? QApplication::focusWidget() : Finden(Name);
-    if (!Ziel)
+    if (!Ziel || !Aktiviert(Ziel))
         return Stand::Wartend;
     Spaeter([Ziel, Tat] { Tat(Ziel); });
     return Stand::Fertig;

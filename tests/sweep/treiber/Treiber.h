@@ -37,6 +37,7 @@ class Treiber : public QObject {
     bool FensterGehtNoch() const;
     void Beantworten(QWidget* Fenster, const std::function<void()>& Tat);
     void Spaeter(const std::function<void()>& Tat);
+    bool Aktiviert(const QWidget* Ziel) const;
     Stand AnWidget(const QString& Name, const std::function<void(QWidget*)>& Tat);
     void Melden(const QString& Art, const QString& Text);
     [[noreturn]] void Aufgeben(const QString& Grund);
