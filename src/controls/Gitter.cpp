@@ -146,6 +146,10 @@ void Gitter::setColAlignment(int Spalte, Qt::Alignment Ausrichtung) {
     Modell->AusrichtungSetzen(Spalte, Ausrichtung);
 }
 
+void Gitter::setColorMeaning(QColor Farbe, const QString& Bedeutung) {
+    Modell->BedeutungSetzen(Farbe.rgb(), Bedeutung);
+}
+
 void Gitter::setMergeRow(int Zeile, bool Verbinden) {
     Modell->VerbindenSetzen(Zeile, Verbinden);
     viewport()->update();

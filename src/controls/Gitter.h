@@ -85,6 +85,8 @@ class Gitter : public QTableView {
     void setCellForeColor(int Zeile, int Spalte, QColor Farbe);
     void setCellBackColor(int Zeile, int Spalte, QColor Farbe);
     void setColAlignment(int Spalte, Qt::Alignment Ausrichtung);
+    /// Says in words what a text colour means: to screen readers, and in the cell's tool tip.
+    void setColorMeaning(QColor Farbe, const QString& Bedeutung);
     void setMergeRow(int Zeile, bool Verbinden); ///< equal neighbours in this header row show as one
     /// Texts break over several lines, at CR LF too (assessment grids).
     void setWordWrapCells(bool Umbrechen);
@@ -176,6 +178,7 @@ class Gitter : public QTableView {
     void ZeilenhoeheVorgeben();
     void AktuelleLeeren();
     void AnteileAnwenden();
+    QString Zelltipp(const QModelIndex& Stelle) const;
     void ZelleAnklicken(const QModelIndex& Stelle);
     static std::optional<CursorAction> Bewegung(const QKeyEvent& Taste);
     bool Weiter(bool Vorwaerts); ///< Tab: false at the end of the grid

@@ -179,13 +179,20 @@ void Gitter::focusOutEvent(QFocusEvent* Ereignis) {
 bool Gitter::viewportEvent(QEvent* Ereignis) {
     if (Ereignis->type() != QEvent::ToolTip)
         return QTableView::viewportEvent(Ereignis);
-    // What does not fit into its cell is shown whole; plain text, whatever it looks like.
     const auto* Hilfe = static_cast<QHelpEvent*>(Ereignis);
-    const QModelIndex Stelle = indexAt(Hilfe->pos());
-    const QString& Text = Modell->Zelle(Stelle.row(), Stelle.column()).Text;
-    if (!Umbruch && fontMetrics().horizontalAdvance(Text) > visualRect(Stelle).width() - 6)
-        QToolTip::showText(Hilfe->globalPos(), Text.toHtmlEscaped(), viewport());
-    else
+    const QString Tipp = Zelltipp(indexAt(Hilfe->pos()));
+    if (Tipp.isEmpty())
         QToolTip::hideText();
+    else
+        QToolTip::showText(Hilfe->globalPos(), Tipp.toHtmlEscaped(),
+                           viewport()); // plain, whatever it looks like
     return true;
+}
+
+/// What does not fit into its cell, whole; else what its colour means.
+QString Gitter::Zelltipp(const QModelIndex& Stelle) const {
+    const QString& Text = Modell->Zelle(Stelle.row(), Stelle.column()).Text;
+    if (!Umbruch && fontMetrics().horizontalAdvance(Text) > visualRect(Stelle).width() - 2)
+        return Text;
+    return Modell->Bedeutung(Stelle.row(), Stelle.column());
 }

@@ -39,6 +39,8 @@ QVariant Gittermodell::data(const QModelIndex& Stelle, int Rolle) const {
         return Eine.Vordergrund == 0 ? QVariant() : QVariant(QColor(Eine.Vordergrund));
     case Qt::BackgroundRole:
         return Eine.Hintergrund == 0 ? QVariant() : QVariant(QColor(Eine.Hintergrund));
+    case Qt::AccessibleDescriptionRole:
+        return Bedeutung(Stelle.row(), Stelle.column());
     case DatumRolle:
         return Zeilendatum(Stelle.row());
     default:
@@ -119,6 +121,14 @@ void Gittermodell::FarbenSetzen(int Zeile, int Spalte, QRgb Vordergrund, QRgb Hi
     Ziel.Hintergrund = Hintergrund;
     const QModelIndex Stelle = index(Zeile, Spalte);
     Q_EMIT dataChanged(Stelle, Stelle, {Qt::ForegroundRole, Qt::BackgroundRole});
+}
+
+void Gittermodell::BedeutungSetzen(QRgb Farbe, const QString& Neue) {
+    Bedeutungen.insert(Farbe, Neue);
+}
+
+QString Gittermodell::Bedeutung(int Zeile, int Spalte) const {
+    return Bedeutungen.value(Zelle(Zeile, Spalte).Vordergrund);
 }
 
 void Gittermodell::ZeilendatumSetzen(int Zeile, int Datum) {

@@ -3,6 +3,7 @@
 #include "controls/Gitter.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 
 /// What a grid shows: texts and colours in one flat block, row by row, with the hidden data of rows and
 /// columns. The header rows and fixed columns are rows and columns like any other; headerData answers their
@@ -48,7 +49,10 @@ class Gittermodell : public QAbstractTableModel {
     void VerbindenSetzen(int Zeile, bool Verbinden);
     void ZeilenanzahlSetzen(int Anzahl);
     void SpaltenanzahlSetzen(int Anzahl);
-    void FestSetzen(int Zeilen, int Spalten); ///< for headerData and merging
+    /// What a text colour means, in words, for those who do not see it.
+    void BedeutungSetzen(QRgb Farbe, const QString& Bedeutung);
+    QString Bedeutung(int Zeile, int Spalte) const; ///< "" for a colour without one
+    void FestSetzen(int Zeilen, int Spalten);       ///< for headerData and merging
     void RumpfSetzen(std::vector<Gitterzeile> Zeilen);
     /// Row Von+i becomes what row Von+Reihenfolge[i] was.
     void Umordnen(int Von, const std::vector<int>& Reihenfolge);
@@ -77,6 +81,7 @@ class Gittermodell : public QAbstractTableModel {
     mutable std::vector<int> Breiten; ///< one for each cell; -1: not measured
     std::vector<qint32> Zeilendaten;
     std::vector<Spaltenangabe> Spaltendaten;
+    QHash<QRgb, QString> Bedeutungen;
     std::vector<bool> Verbunden; ///< by header row
     int AnzFesteZeilen = 0;
     int AnzFesteSpalten = 0;

@@ -115,6 +115,7 @@ void Notenliste::GitterEinrichten() {
     Tabelle->setColShares(Spaltenanteile(), Mindestbreite(Tabelle->fontMetrics()));
     for (int Spalte = 1; Spalte < Notenspalte::Anzahl; ++Spalte)
         Tabelle->setColAlignment(Spalte, Qt::AlignCenter);
+    Tabelle->setColorMeaning(QColor(VonHand), QStringLiteral("Note von Hand gesetzt"));
     Tabelle->setTextMatrix(0, Notenspalte::Name, Art.Kopf());
     for (const int Spalte : {Notenspalte::HalbjahrDurchschnitt, Notenspalte::HalbjahrZeugnis})
         Tabelle->setTextMatrix(0, Spalte, QStringLiteral("Halbjahr"));

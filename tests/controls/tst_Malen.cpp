@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QScrollBar>
+#include <QToolTip>
 #include <QtTest>
 
 namespace {
@@ -61,6 +62,7 @@ class MalenTest : public QObject {
     void fixedPartCoversWhatIsScrolledUnderIt();
     void screenReaderWalksWhileTheGridIsRefilled();
     void focusedGridHasACurrentCell();
+    void colourIsSaidInWords();
 
   private:
     std::unique_ptr<Gitter> Tabelle;
@@ -223,6 +225,20 @@ void MalenTest::focusedGridHasACurrentCell() {
     Tabelle->setFocus();
     QCOMPARE(QPoint(Tabelle->Row(), Tabelle->Col()), QPoint(2, 1));
     QCOMPARE(Betreten.count(), 0);
+}
+
+void MalenTest::colourIsSaidInWords() {
+    Tabelle->setColorMeaning(Qt::red, QStringLiteral("von Hand"));
+    Tabelle->setCellForeColor(3, 2, Qt::red);
+    QAccessibleInterface* Lesbar = QAccessible::queryAccessibleInterface(Tabelle.get());
+    QCOMPARE(Lesbar->tableInterface()->cellAt(3, 2)->text(QAccessible::Description),
+             QStringLiteral("von Hand"));
+    QCOMPARE(Lesbar->tableInterface()->cellAt(3, 3)->text(QAccessible::Description), QString());
+    QHelpEvent Hilfe(QEvent::ToolTip, Tabelle->visualRect(Tabelle->model()->index(3, 2)).center(),
+                     Tabelle->mapToGlobal(QPoint(1, 1)));
+    QCoreApplication::sendEvent(Tabelle->viewport(), &Hilfe);
+    QCOMPARE(QToolTip::text(), QStringLiteral("von Hand"));
+    QToolTip::hideText();
 }
 
 TESTKLASSE(MalenTest)
