@@ -336,7 +336,7 @@ class TestHauptfenster : public QObject {
     void AnderesWirdNichtHereingelassen() {
         Fenster.Starten();
         QMimeData Daten;
-        Daten.setUrls({QUrl::fromLocalFile(QStringLiteral("/tmp/bild.jpg"))});
+        Daten.setUrls({QUrl::fromLocalFile(Welt.Pfad(QStringLiteral("bild.jpg")))});
         QDragEnterEvent Herein(QPoint(5, 5), Qt::CopyAction, &Daten, Qt::LeftButton, Qt::NoModifier);
         Herein.ignore();
         QCoreApplication::sendEvent(&*Fenster, &Herein);
