@@ -317,6 +317,7 @@ void AnsichtB::ZeilenhoeheAnpassen(Gitter& Tabelle, int Zeile, int Spalte) {
 
 void AnsichtB::ZeilenhoehenAnpassen(Gitter& Tabelle, int Spalte) {
     std::vector<int> Hoehen;
+    Hoehen.reserve(static_cast<std::size_t>(Tabelle.Rows()));
     for (int Zeile = 0; Zeile < Tabelle.Rows(); ++Zeile)
         Hoehen.push_back(Zeilenhoehe(Tabelle, Zeile, Spalte));
     Tabelle.setRowHeights(0, Hoehen);

@@ -144,7 +144,7 @@ void EingabeText::FarbenSetzen() {
 
 QString EingabeText::Bereinigt(const QString& Roher) {
     int Entfallen = 0;
-    const QString Sauber = EingabeBereinigt(Roher, Mehrzeilig, &Entfallen);
+    QString Sauber = EingabeBereinigt(Roher, Mehrzeilig, &Entfallen);
     if (Entfallen > 0)
         EntfallenMelden(this);
     return Sauber;

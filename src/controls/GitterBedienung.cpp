@@ -60,7 +60,7 @@ void Gitter::keyPressEvent(QKeyEvent* Ereignis) {
     const auto Tab = Ereignis->key() == Qt::Key_Tab;
     if (Tab || Ereignis->key() == Qt::Key_Backtab) {
         if (!Weiter(Tab))
-            QWidget::focusNextPrevChild(Tab);
+            QWidget::focusNextPrevChild(Tab); // NOLINT(bugprone-parent-virtual-call): not the views' way
         return;
     }
     if (const auto Richtung = Bewegung(*Ereignis)) {

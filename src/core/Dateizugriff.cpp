@@ -17,7 +17,7 @@
 namespace {
 
 /// Fixed, so that reading back needs no memory while the target is the only thing that counts.
-using Puffer = std::array<char, 64 * 1024>;
+using Puffer = std::array<char, std::size_t{64} * 1024>;
 
 /// Beyond this no file of the program is: the book at all bounds has 27 MB.
 constexpr qint64 GroessteDatei = qint64(1) << 30;
