@@ -16,19 +16,10 @@ QString Tr(const char* Text) {
 
 enum class Ausweg { Nochmals, Anderswo, Keiner };
 
-Ausweg AuswegFragen(const Dateifehler& Fehler) {
-    const int Wahl =
-        Meldungen().Waehlen({Fehler.Text,
-                             Tr("Die Datenbank ist nicht gespeichert!"),
-                             {Tr("Erneut versuchen"), Tr("Speichern unter..."), Tr("Abbrechen")}});
+Ausweg AuswegFragen(const Dateifehler& Fehler, const QString& Meldung) {
+    const int Wahl = Meldungen().Waehlen(
+        {Fehler.Text, Meldung, {Tr("Erneut versuchen"), Tr("Speichern unter..."), Tr("Abbrechen")}});
     return static_cast<Ausweg>(Wahl);
-}
-
-/// A path of the user's choice; empty if there is none.
-QString AnderenPfadFragen() {
-    const auto Wahl = Meldungen().Speichern(
-        {Tr("Speichern unter..."), {{Tr("Notendatenbank"), QStringLiteral("*.txt")}}, AutoDatei()});
-    return Wahl && UeberschreibenErlaubt(Wahl->Pfad) ? Wahl->Pfad : QString();
 }
 
 /// One attempt. Nothing if it succeeded, else the failure, already reported unless a rescue copy is all that
@@ -54,21 +45,34 @@ bool UeberschreibenErlaubt(const QString& Pfad) {
                                                          Tr(" ersetzt werden?")) == Antwort::Ja;
 }
 
-bool SpeichernUndMelden(const QString& Pfad, const Schreiber& Schreiben) {
+QString SpeicherpfadFragen(const Dateifilter& Filter, const QString& Vorgabe) {
+    const auto Wahl = Meldungen().Speichern({Tr("Speichern unter..."), {Filter}, Vorgabe});
+    return Wahl && UeberschreibenErlaubt(Wahl->Pfad) ? Wahl->Pfad : QString();
+}
+
+bool SpeichernUndMelden(const QString& Pfad, const Schreiber& Schreiben, const Ausweichweg& Anderswo) {
     QString Ziel = Pfad;
     Schreiber Aktueller = Schreiben;
     while (const auto Fehler = Versuchen(Ziel, Aktueller)) {
         if (Fehler->Rettungskopie.isEmpty())
             return false;
-        const Ausweg Gewaehlt = AuswegFragen(*Fehler);
+        const Ausweg Gewaehlt = AuswegFragen(*Fehler, Anderswo.Meldung);
         if (Gewaehlt == Ausweg::Keiner)
             return false;
         if (Gewaehlt == Ausweg::Nochmals)
             continue;
-        if (const QString Neues = AnderenPfadFragen(); !Neues.isEmpty()) {
+        if (const QString Neues = Anderswo.PfadFragen(); !Neues.isEmpty()) {
             Ziel = Neues;
-            Aktueller = SpeichernDatenbank3;
+            Aktueller = Anderswo.Schreiben;
         }
     }
     return true;
+}
+
+bool SpeichernUndMelden(const QString& Pfad, const Schreiber& Schreiben) {
+    const auto Fragen = [] {
+        return SpeicherpfadFragen({Tr("Notendatenbank"), QStringLiteral("*.txt")}, AutoDatei());
+    };
+    return SpeichernUndMelden(Pfad, Schreiben,
+                              {Tr("Die Datenbank ist nicht gespeichert!"), Fragen, SpeichernDatenbank3});
 }
