@@ -19,7 +19,7 @@ done
 
 found() { # message, pattern, paths...
   local message=$1 pattern=$2; shift 2
-  local hits; hits=$(git grep -nE "$pattern" -- "$@" || true)
+  local hits; hits=$(git grep -nIE "$pattern" -- "$@" || true)
   [ -z "$hits" ] || complain "$message
 $hits"
 }

@@ -1,9 +1,8 @@
 # Sourced by run.sh, test.sh and .ci/run: installs by apt what is missing, once, as root or through sudo.
 # Usage: dependencies_install build|test|check ...
 
-DEPENDENCIES_build="g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools
-  libqt6svg6-dev libgl1-mesa-dev qt6-l10n-tools qt6-translations-l10n qt6-qpa-plugins libqt6svg6 libqt6sql6-sqlite
-  fonts-dejavu-core fonts-liberation"
+DEPENDENCIES_build="g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libgl1-mesa-dev qt6-translations-l10n
+  qt6-qpa-plugins fonts-dejavu-core fonts-liberation"
 DEPENDENCIES_test="xvfb xauth openbox xdotool x11-utils imagemagick dbus strace procps python3"
 DEPENDENCIES_check="clang clang-tidy clang-format cppcheck libclang-rt-14-dev libbenchmark-dev"
 

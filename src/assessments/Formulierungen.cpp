@@ -2,17 +2,13 @@
 
 #include "assessments/Formulierungsdatei.h"
 #include "core/Dateischutz.h"
-#include "core/Datenbankdatei.h"
 #include "core/Dokumentdateien.h"
 #include "core/Einstellungen.h"
 #include "core/FktAllgemein.h"
-#include "core/Ladebericht.h"
 #include "core/Meldungen.h"
 #include "core/Oberflaeche.h"
-#include "core/Originalschutz.h"
 #include "core/Orte.h"
 #include "core/Rettung.h"
-#include "core/Speichern.h"
 
 #include <optional>
 
@@ -20,7 +16,11 @@ namespace {
 
 const QString Zeilenende = QStringLiteral("\r\n");
 const QString DateiAnfang = QStringLiteral("Die BeurteilungsFormulierungen-Datei ");
-const QString Muster = QStringLiteral("*.txt");
+const QString SpeichernTitel = QStringLiteral("Speichern unter...");
+
+/// The last load failed: the store is emptied or cut, while the current file may still hold all. It is then
+/// not overwritten without a copy of what stands in it.
+bool SpeicherUnvollstaendig = false;
 
 QString AktuellerPfad() {
     return EinstellungLesen(QStringLiteral("Formulierungen"), Unbenannt);
@@ -30,7 +30,16 @@ void PfadMerken(const QString& Pfad) {
     EinstellungSchreiben(QStringLiteral("Formulierungen"), Pfad);
 }
 
-QString Schaden(const QString& Pfad, const Formulierungsbefund& Befund) {
+/// Reports a failure; that the log cannot be written is one message more, and does not hide the first.
+void Melden(const QString& Text) {
+    try {
+        Fehlermeldung(Text);
+    } catch (const Laufzeitfehler& Fehler) {
+        MeldungZeigen(Fehler.Text(), {}, Symbol::Fehler);
+    }
+}
+
+QString Schadensbericht(const QString& Pfad, const Formulierungsbefund& Befund) {
     const QStringList Zeilen{
         QStringLiteral("Fehler beim Einlesen der Beurteilungsvorlagen!"),
         DateiAnfang + Pfad + QStringLiteral(" ist beschädigt oder hat ungültige Daten!"),
@@ -56,7 +65,7 @@ QString Befundtext(const QString& Pfad, const Formulierungsbefund& Befund) {
                QStringLiteral("Um sie zu laden, benötigen Sie die Version ") + Befund.Version +
                QStringLiteral(" der Tafelquell!");
     case Formulierungsbefund::Art::Beschaedigt:
-        return Schaden(Pfad, Befund);
+        return Schadensbericht(Pfad, Befund);
     case Formulierungsbefund::Art::Gut:
         break;
     }
@@ -77,38 +86,28 @@ std::optional<Formulierungsbefund> DateiInSpeicher(const QString& Pfad) {
     return Befund;
 }
 
+/// The save dialog with the question before an existing file is replaced. Nothing: cancelled.
+std::optional<QString> SpeicherpfadErfragen(const Dateifilter& Filter, const QString& Vorgabe) {
+    const auto Wahl = Meldungen().Speichern({SpeichernTitel, {Filter}, Vorgabe});
+    if (!Wahl || !ErsetzenErlaubt(Wahl->Pfad))
+        return {};
+    return Wahl->Pfad;
+}
+
 std::optional<QString> LadepfadErfragen(const QString& Titel) {
-    const Dateifilter Filter{QStringLiteral("Beurteilungsformulierungen (*.txt)"), Muster};
+    const Dateifilter Filter{QStringLiteral("Beurteilungsformulierungen (*.txt)"), QStringLiteral("*.txt")};
     const auto Wahl = Meldungen().Oeffnen({Titel, {Filter}, {}});
     return Wahl ? std::optional(Wahl->Pfad) : std::nullopt;
 }
 
-/// Writes the store and makes the path the current file; throws if that fails, with nothing changed.
-void Schreiben(const QString& Pfad) {
-    const QByteArray Bytes = FormulierungenBytes(Lernbereiche, AnzLernbereiche);
-    const QString Kopie = OriginalSichern(Pfad);
-    if (auto Fehler = DateiSchreiben(Pfad, Bytes))
-        throw Schreibfehler(std::move(*Fehler));
-    PfadMerken(Pfad);
-    FormulierungenGeaendert = false;
-    if (!Kopie.isEmpty())
-        Berichten(
-            QStringLiteral("Beim letzten Laden konnte nicht alles gelesen werden. Der bisherige Inhalt der "
-                           "Datei ") +
-            Pfad + QStringLiteral(" ist deshalb aufgehoben in ") + Kopie);
-}
-
-QString SpeichernUnterFragen() {
-    return SpeicherpfadFragen({QStringLiteral("Beurteilungsformulierungen (Version 3.0)"), Muster},
-                              AktuellerPfad());
-}
-
-/// After a failed load memory holds less than the file that was to be read, and less than the current file,
-/// which a save would overwrite.
-void LadenMerken(const QString& Pfad, bool Gelesen, bool Gut) {
-    LadebefundMerken(Pfad, !Gelesen, Gut ? 0 : 1);
-    if (!Gut)
-        LadebefundMerken(AktuellerPfad(), /*Lesefehler*/ false, 1);
+/// The bytes of the store; nothing, with a message, if it holds a character that no file can.
+std::optional<QByteArray> SpeicherBytes() {
+    try {
+        return FormulierungenBytes(Lernbereiche, AnzLernbereiche);
+    } catch (const Laufzeitfehler& Fehler) {
+        Melden(Fehler.Text());
+        return {};
+    }
 }
 
 void Laden(const QString& Pfad) {
@@ -125,21 +124,30 @@ bool FormulierungenLaden(const QString& Pfad, bool Hinzufuegen) {
     const auto Befund = DateiInSpeicher(Pfad);
     const bool Gut = Befund && Befund->Was == Formulierungsbefund::Art::Gut;
     if (!Hinzufuegen)
-        LadenMerken(Pfad, Befund.has_value() || !DateiExistiert(Pfad), Gut);
+        SpeicherUnvollstaendig = !Gut;
     if (Gut && !Hinzufuegen)
         PfadMerken(Pfad);
     if (Gut)
         return true;
-    Berichten(Befund ? Befundtext(Pfad, *Befund)
-                     : DateiAnfang + Pfad + QStringLiteral(" konnte nicht gefunden werden!"));
+    Melden(Befund ? Befundtext(Pfad, *Befund)
+                  : DateiAnfang + Pfad + QStringLiteral(" konnte nicht gefunden werden!"));
     return false;
 }
 
 bool FormulierungenSpeichern(const QString& Pfad) {
     AktuelleOberflaeche().FokusNehmen();
-    return SpeichernUndMelden(
-        Pfad, Schreiben,
-        {QStringLiteral("Die Formulierungen sind nicht gespeichert!"), SpeichernUnterFragen, Schreiben});
+    const auto Bytes = SpeicherBytes();
+    if (!Bytes || (SpeicherUnvollstaendig && !OriginalAufheben(Pfad)))
+        return false;
+    const Speicherausgang Ausgang = DokumentSchreiben(Pfad, *Bytes);
+    if (Ausgang == Speicherausgang::SpeichernUnter)
+        return FormulierungenSpeichernUnter();
+    if (Ausgang == Speicherausgang::Abgebrochen)
+        return false;
+    PfadMerken(Pfad);
+    SpeicherUnvollstaendig = false;
+    FormulierungenGeaendert = false;
+    return true;
 }
 
 bool FormulierungenAbfrage() {
@@ -156,8 +164,9 @@ bool FormulierungenAbfrage() {
         return Gegeben == Antwort::Nein;
     if (Pfad != Unbenannt)
         return FormulierungenSpeichern(Pfad);
-    const QString Neuer = SpeicherpfadFragen({QStringLiteral("Beurteilungsformulierungen"), Muster}, {});
-    return !Neuer.isEmpty() && FormulierungenSpeichern(Neuer);
+    const auto Neuer =
+        SpeicherpfadErfragen({QStringLiteral("Beurteilungsformulierungen"), QStringLiteral("*.txt")}, {});
+    return Neuer && FormulierungenSpeichern(*Neuer);
 }
 
 void FormulierungenWiederherstellen(const QString& Pfad) {
@@ -168,19 +177,14 @@ void FormulierungenWiederherstellen(const QString& Pfad) {
                QStringLiteral("Möchten Sie wirklich alle seitdem gemachten Änderungen verwerfen und "
                               "Sicherheitskopie wiederherstellen?");
     };
-    const auto Fehler = SicherheitskopieZurueckholen(Pfad, Frage);
-    if (!Fehler)
+    if (!SicherheitskopieZurueckholen(Pfad, Frage))
         return;
     FormulierungenLaden(Pfad, false);
     AktuelleOberflaeche().AnsichtAktualisieren();
-    if (!Fehler->isEmpty()) {
-        Berichten(*Fehler);
-        return;
-    }
-    Berichten(QStringLiteral(
-                  "Die Beurteilungsformulierungen wurden aus ihrer Sicherheitskopie wiederhergestellt!") +
-              Zeilenende + QStringLiteral("Die ursprüngliche Datei wurde in ") +
-              MitEndung(Pfad, QStringLiteral("_err.txt")) + QStringLiteral(" umbenannt!"));
+    Melden(QStringLiteral(
+               "Die Beurteilungsformulierungen wurden aus ihrer Sicherheitskopie wiederhergestellt!") +
+           Zeilenende + QStringLiteral("Die ursprüngliche Datei wurde in ") +
+           MitEndung(Pfad, QStringLiteral("_err.txt")) + QStringLiteral(" umbenannt!"));
 }
 
 void FormulierungenNeu() {
@@ -188,6 +192,7 @@ void FormulierungenNeu() {
     if (!FormulierungenAbfrage())
         return;
     LernbereicheLeeren(Lernbereiche, AnzLernbereiche);
+    SpeicherUnvollstaendig = false;
     FormulierungenGeaendert = false;
     PfadMerken(Unbenannt);
     AktuelleOberflaeche().FormulierungenFuellen();
@@ -198,7 +203,6 @@ void FormulierungenOeffnen() {
     if (!FormulierungenAbfrage())
         return;
     if (const auto Pfad = LadepfadErfragen(QStringLiteral("Öffnen"))) {
-        RettungAnbietenFuer(*Pfad);
         RettungAnbietenFuer(*Pfad);
         Laden(*Pfad);
         AktuelleOberflaeche().LernbereicheFuellen();
@@ -222,8 +226,10 @@ bool FormulierungenSpeichern() {
 
 bool FormulierungenSpeichernUnter() {
     AktuelleOberflaeche().FokusNehmen();
-    const QString Pfad = SpeichernUnterFragen();
-    return !Pfad.isEmpty() && FormulierungenSpeichern(Pfad);
+    const Dateifilter Filter{QStringLiteral("Beurteilungsformulierungen (Version 3.0)"),
+                             QStringLiteral("*.txt")};
+    const auto Pfad = SpeicherpfadErfragen(Filter, AktuellerPfad());
+    return Pfad && FormulierungenSpeichern(*Pfad);
 }
 
 void FormulierungenSicherheitskopie() {

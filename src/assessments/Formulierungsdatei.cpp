@@ -1,7 +1,7 @@
 #include "assessments/Formulierungsdatei.h"
 
-#include "core/Bytezeilen.h"
 #include "core/Codeseite.h"
+#include "core/Zeilenteiler.h"
 
 namespace {
 
@@ -11,11 +11,6 @@ constexpr qsizetype VersionsStelle = Kopf.size() + 1; // one character, a blank,
 
 QString Decodiert(QByteArrayView Bytes) {
     return AusCodeseite(Bytes.data(), Bytes.size());
-}
-
-QByteArrayView NaechsteZeile(Bytezeilen& Zeilen) {
-    const std::string_view Zeile = Zeilen.Naechste();
-    return {Zeile.data(), static_cast<qsizetype>(Zeile.size())};
 }
 
 bool IstBereich(QByteArrayView Zeile) {
@@ -73,15 +68,15 @@ void LernbereicheLeeren(Lernbereichsreihe& Bereiche, qint16& Anzahl) {
 }
 
 Formulierungsbefund FormulierungenLesen(QByteArrayView Bytes, Lernbereichsreihe& Bereiche, qint16& Anzahl) {
-    Bytezeilen Zeilen({Bytes.data(), static_cast<std::size_t>(Bytes.size())});
+    Zeilenteiler Zeilen(Bytes);
+    QByteArrayView Zeile;
     Formulierungsbefund Befund;
-    if (Zeilen.AmEnde())
+    if (!Zeilen.Naechste(Zeile))
         return Schaden(Befund.Zeile, Anzahl, {});
-    Befund.Was = KopfPruefen(NaechsteZeile(Zeilen), Befund.Version);
+    Befund.Was = KopfPruefen(Zeile, Befund.Version);
     if (Befund.Was != Formulierungsbefund::Art::Gut)
         return Befund;
-    while (!Zeilen.AmEnde()) {
-        const QByteArrayView Zeile = NaechsteZeile(Zeilen);
+    while (Zeilen.Naechste(Zeile)) {
         ++Befund.Zeile;
         const bool NeuerBereich = IstBereich(Zeile);
         const bool Aufgenommen = NeuerBereich ? BereichBeginnen(Zeile, Bereiche, Anzahl)

@@ -12,6 +12,7 @@ EingabeFeld::EingabeFeld(Gitter* Eigner)
     , Tabelle(Eigner)
     , Anker(new Zellanker(this, Eigner)) {
     setFrame(false);
+    setAttribute(Qt::WA_OpaquePaintEvent); // it fills itself: a key does not repaint the grid below
     setTextMargins(1, 0, 1, 0);
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (!Still)

@@ -1,5 +1,6 @@
 #include "core/Dateizugriff.h"
 
+#include "core/GrosseSeiten.h"
 #include "core/Pruefsumme.h"
 
 #include <algorithm>
@@ -11,7 +12,6 @@
 #include <utility>
 
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <unistd.h>
 
 namespace {
@@ -55,19 +55,6 @@ int InsFreieLesen(const Deskriptor& Datei, QByteArray* Inhalt, qsizetype* Stelle
             return Gelesen == 0 ? 0 : errno;
         *Stelle += Gelesen;
     }
-}
-
-/// A big buffer costs more in page faults than in reading: large pages where the system has them spare nearly
-/// all of these. What does not work changes nothing.
-void GrosseSeitenErbitten([[maybe_unused]] QByteArray& Bereich) {
-#ifdef MADV_HUGEPAGE
-    constexpr quintptr Seite = quintptr(2) << 20;
-    const auto Anfang = (reinterpret_cast<quintptr>(Bereich.data()) + Seite - 1) / Seite * Seite;
-    const auto Ende =
-        (reinterpret_cast<quintptr>(Bereich.data()) + static_cast<quintptr>(Bereich.size())) / Seite * Seite;
-    if (Ende > Anfang)
-        madvise(reinterpret_cast<void*>(Anfang), Ende - Anfang, MADV_HUGEPAGE);
-#endif
 }
 
 } // namespace
@@ -132,7 +119,7 @@ int GanzLesen(const Deskriptor& Datei, QByteArray* Inhalt) try {
         return Fehler;
     // One byte more than expected: the read that finds the end needs room.
     Inhalt->resize(static_cast<qsizetype>(std::clamp<qint64>(Stand.st_size, 0, GroessteDatei)) + 1);
-    GrosseSeitenErbitten(*Inhalt);
+    GrosseSeitenErbitten(Inhalt->data(), Inhalt->size());
     qsizetype Stelle = 0;
     const int Fehler = InsFreieLesen(Datei, Inhalt, &Stelle);
     Inhalt->resize(Stelle);
@@ -186,17 +173,12 @@ int DateiUmbenennen(const QByteArray& Alt, const QByteArray& Neu) {
 }
 
 int EchterPfad(const QByteArray& Pfad, QByteArray* Echter) {
-    constexpr int Versuche = 100;
-    for (int Versuch = 1;; ++Versuch) {
-        const std::unique_ptr<char, void (*)(void*)> Text(Aufrufe().Realpath(Pfad.constData(), nullptr),
-                                                          std::free);
-        if (Text) {
-            *Echter = QByteArray(Text.get());
-            return 0;
-        }
-        if (errno != EINTR || Versuch == Versuche)
-            return errno;
-    }
+    char* const Text = Beharrlich([&] { return Aufrufe().Realpath(Pfad.constData(), nullptr); }, nullptr);
+    if (!Text)
+        return errno;
+    const std::unique_ptr<char, void (*)(void*)> Eigner(Text, std::free);
+    *Echter = QByteArray(Text);
+    return 0;
 }
 
 QByteArray OrdnerVon(const QByteArray& Pfad) {

@@ -10,13 +10,14 @@
 // The steps from which reading, writing and rescuing are made. Each goes through the table of calls, looks at
 // every result, and repeats what a signal broke off. Functions that return int give 0, or errno.
 
-/// Repeats a call that a signal broke off; not for ever, since a fault could make that endless.
-template <typename Aufruf>
-auto Beharrlich(Aufruf Einer) {
+/// Repeats a call that a signal broke off; not for ever, since a fault could make that endless. Misserfolg is
+/// what the call gives when it fails.
+template <typename Aufruf, typename Wert = int>
+auto Beharrlich(Aufruf Einer, Wert Misserfolg = -1) {
     constexpr int Versuche = 100;
     for (int Versuch = 1;; ++Versuch) {
         const auto Ergebnis = Einer();
-        if (Ergebnis != -1 || errno != EINTR || Versuch == Versuche)
+        if (Ergebnis != Misserfolg || errno != EINTR || Versuch == Versuche)
             return Ergebnis;
     }
 }

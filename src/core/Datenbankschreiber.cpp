@@ -124,11 +124,24 @@ void ParameterSchreiben(Zeilenschreiber& Z) {
     Z.ZeileEnden();
 }
 
+/// About how long the file becomes: the assessments are nearly all of it, and rows of the others are of much
+/// the same length.
+qsizetype ErwarteteLaenge() {
+    constexpr qsizetype Marke = 16;
+    constexpr qsizetype Zeile = 200;
+    qsizetype Laenge = 4096 + Zeile * (Datenbank.AnzNoten + Datenbank.AnzSchueler + Datenbank.AnzZSchueler) +
+                       Zeile * 10 * Datenbank.AnzFaecher;
+    for (int s = 0; s < Datenbank.AnzSchueler; ++s)
+        for (const QString& Text : Datenbank.Schueler[s].Beurteilung)
+            Laenge += Text.isEmpty() ? 0 : Text.size() + Marke;
+    return Laenge;
+}
+
 } // namespace
 
 QByteArray DatenbankBytes(char Version) {
     const Notendatenbank& Buch = Datenbank;
-    Zeilenschreiber Z;
+    Zeilenschreiber Z(ErwarteteLaenge());
     Z.Zeile(Version == '3' ? "[Tafelquell 3.0]" : "[Tafelquell 2.0]");
     Abschnittschreiben(Z, Abschnitt::Klassen, Buch.Klassen, Buch.AnzKlassen,
                        [](auto& Satz, auto&& B) { KlasseSpalten(Satz, B); });

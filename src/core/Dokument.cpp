@@ -2,6 +2,7 @@
 
 #include "core/Datenbankdatei.h"
 #include "core/Definitionen.h"
+#include "core/Dokumentdateien.h"
 #include "core/Einstellungen.h"
 #include "core/Meldungen.h"
 #include "core/NeuesBuch.h"
@@ -23,7 +24,7 @@ const QString Muster = QStringLiteral("*.txt");
 bool ErstmalsSpeichern() {
     const auto Wahl =
         Meldungen().Speichern({Tr("Speichern unter..."), {{Tr("Notendatenbank"), Muster}}, AutoDatei()});
-    if (!Wahl || Wahl->Pfad.isEmpty() || !UeberschreibenErlaubt(Wahl->Pfad))
+    if (!Wahl || Wahl->Pfad.isEmpty() || !ErsetzenErlaubt(Wahl->Pfad))
         return false;
     return SpeichernUndMelden(Wahl->Pfad, SpeichernDatenbank3);
 }
@@ -107,7 +108,7 @@ bool DatenbankSpeichernUnter() {
         {Tr("Speichern unter..."),
          {{Tr("Notendatenbank"), Muster}, {Tr("Notendatenbank (ältere Version 2.0)"), Muster}},
          AutoDatei()});
-    if (!Wahl || Wahl->Pfad.isEmpty() || !UeberschreibenErlaubt(Wahl->Pfad))
+    if (!Wahl || Wahl->Pfad.isEmpty() || !ErsetzenErlaubt(Wahl->Pfad))
         return false;
     if (Wahl->FilterIndex != 2)
         return SpeichernUndMelden(Wahl->Pfad, SpeichernDatenbank3);

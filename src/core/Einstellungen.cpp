@@ -10,14 +10,26 @@ QString InAbschnitt(const QString& Schluessel) {
     return QStringLiteral("Settings/") + Schluessel;
 }
 
+/// Only the file of the user: other places that Qt would look into have no settings of ours.
+class Ablage : public QSettings {
+  public:
+    Ablage()
+        : QSettings(Anwendung, Anwendung) {
+        setFallbacksEnabled(false);
+    }
+};
+
 } // namespace
 
 QString EinstellungLesen(const QString& Schluessel, const QString& Vorgabe) {
-    return QSettings(Anwendung, Anwendung).value(InAbschnitt(Schluessel), Vorgabe).toString();
+    return Ablage().value(InAbschnitt(Schluessel), Vorgabe).toString();
 }
 
 void EinstellungSchreiben(const QString& Schluessel, const QString& Wert) {
-    QSettings Ablage(Anwendung, Anwendung);
-    Ablage.setValue(InAbschnitt(Schluessel), Wert);
-    Ablage.sync();
+    Ablage Ziel;
+    // What stands there already needs no way to the disc.
+    if (Ziel.value(InAbschnitt(Schluessel)).toString() == Wert && Ziel.contains(InAbschnitt(Schluessel)))
+        return;
+    Ziel.setValue(InAbschnitt(Schluessel), Wert);
+    Ziel.sync();
 }

@@ -32,17 +32,18 @@ bool IstRettung(const QByteArray& Name) {
 }
 
 int NamenLesen(QList<QByteArray>* Namen) {
-    const std::unique_ptr<DIR, int (*)(DIR*)> Ordner(Aufrufe().Opendir(Rettungsordner().constData()),
-                                                     Aufrufe().Closedir);
-    if (!Ordner)
+    const QByteArray Name = Rettungsordner();
+    DIR* const Offener = Beharrlich([&] { return Aufrufe().Opendir(Name.constData()); }, nullptr);
+    if (!Offener)
         return errno == ENOENT ? 0 : errno;
-    for (;;) {
-        errno = 0;
-        const dirent* const Eintrag = Aufrufe().Readdir(Ordner.get());
-        if (!Eintrag)
-            return errno;
+    const std::unique_ptr<DIR, int (*)(DIR*)> Ordner(Offener, Aufrufe().Closedir);
+    const auto Naechster = [&] {
+        errno = 0; // at the end of the folder it stays so
+        return Aufrufe().Readdir(Ordner.get());
+    };
+    while (const dirent* const Eintrag = Beharrlich(Naechster, nullptr))
         Namen->append(QByteArray(Eintrag->d_name));
-    }
+    return errno;
 }
 
 /// The folder is there and closed to others.
@@ -89,7 +90,9 @@ int UnfertigeAnlegen(Rettungskopie* Neue, qint64* Nummer) {
         Neue->Pfad = PfadVon(*Nummer, Unfertig);
         Fehler = DateiOeffnen(Neue->Pfad, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, &Neue->Datei, 0600);
         struct stat Stand {};
-        if (Fehler == 0 && Aufrufe().Stat(PfadVon(*Nummer, Fertig).constData(), &Stand) == -1)
+        const QByteArray Endgueltig = PfadVon(*Nummer, Fertig);
+        const auto Nachsehen = [&] { return Aufrufe().Stat(Endgueltig.constData(), &Stand); };
+        if (Fehler == 0 && Beharrlich(Nachsehen) == -1)
             return errno == ENOENT ? Sperren(Neue->Datei) : errno;
         if (Fehler == 0)
             RettungEntfernen(Neue);

@@ -30,13 +30,13 @@ void SicherheitskopieErstellen() {
 
 void DatenbankWiederherstellen(const QString& Pfad) {
     AktuelleOberflaeche().FokusNehmen();
-    const auto Fehler = SicherheitskopieZurueckholen(Pfad, Wiederherstellungsfrage);
-    if (!Fehler)
+    QString Grund;
+    if (!SicherheitskopieZurueckholen(Pfad, Wiederherstellungsfrage, &Grund))
         return;
     LadeDatenbank(Pfad);
     AktuelleOberflaeche().AnsichtAktualisieren();
-    if (!Fehler->isEmpty())
-        Berichten(*Fehler);
+    if (!Grund.isEmpty())
+        Berichten(Grund);
     else
         Berichten(Tr("Die aktuelle Datenbank wurde aus ihrer Sicherheitskopie wiederhergestellt!") + u'\n' +
                   Tr("Die ursprüngliche Datei wurde in ") + MitEndung(Pfad, QStringLiteral("_err.txt")) +

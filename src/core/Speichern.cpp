@@ -2,7 +2,7 @@
 
 #include "core/AutoDatei.h"
 #include "core/Datenbankdatei.h"
-#include "core/FktAllgemein.h"
+#include "core/Dokumentdateien.h"
 #include "core/Ladebericht.h"
 #include "core/Meldungen.h"
 
@@ -14,65 +14,41 @@ QString Tr(const char* Text) {
     return QCoreApplication::translate("Speichern", Text);
 }
 
-enum class Ausweg { Nochmals, Anderswo, Keiner };
-
-Ausweg AuswegFragen(const Dateifehler& Fehler, const QString& Meldung) {
-    const int Wahl = Meldungen().Waehlen(
-        {Fehler.Text, Meldung, {Tr("Erneut versuchen"), Tr("Speichern unter..."), Tr("Abbrechen")}});
-    return static_cast<Ausweg>(Wahl);
+/// A path of the user's choice; empty if there is none.
+QString AnderenPfadFragen() {
+    const auto Wahl = Meldungen().Speichern(
+        {Tr("Speichern unter..."), {{Tr("Notendatenbank"), QStringLiteral("*.txt")}}, AutoDatei()});
+    return Wahl && ErsetzenErlaubt(Wahl->Pfad) ? Wahl->Pfad : QString();
 }
 
-/// One attempt. Nothing if it succeeded, else the failure, already reported unless a rescue copy is all that
-/// is left.
-std::optional<Dateifehler> Versuchen(const QString& Pfad, const Schreiber& Schreiben) {
+/// One attempt, and what the user wants if it failed; nothing if it succeeded.
+std::optional<Schreibweg> Versuchen(const QString& Pfad, const Schreiber& Schreiben) {
     try {
         Schreiben(Pfad);
         return {};
     } catch (const Schreibfehler& Fehler) {
-        if (Fehler.Fehler.Rettungskopie.isEmpty())
-            Berichten(Fehler.Text());
-        return Fehler.Fehler;
+        return SchreibfehlerZeigen(Fehler.Fehler);
     } catch (const Laufzeitfehler& Fehler) {
         Berichten(Fehler.Text());
-        return Dateifehler{};
+        return Schreibweg::Abbrechen;
     }
 }
 
 } // namespace
 
-bool UeberschreibenErlaubt(const QString& Pfad) {
-    return !DateiExistiert(Pfad) || FrageJaNeinAbbrechen(Tr("Soll die bereits existierende Datei ") + Pfad +
-                                                         Tr(" ersetzt werden?")) == Antwort::Ja;
-}
-
-QString SpeicherpfadFragen(const Dateifilter& Filter, const QString& Vorgabe) {
-    const auto Wahl = Meldungen().Speichern({Tr("Speichern unter..."), {Filter}, Vorgabe});
-    return Wahl && UeberschreibenErlaubt(Wahl->Pfad) ? Wahl->Pfad : QString();
-}
-
-bool SpeichernUndMelden(const QString& Pfad, const Schreiber& Schreiben, const Ausweichweg& Anderswo) {
+bool SpeichernUndMelden(const QString& Pfad, const Schreiber& Schreiben) {
     QString Ziel = Pfad;
     Schreiber Aktueller = Schreiben;
-    while (const auto Fehler = Versuchen(Ziel, Aktueller)) {
-        if (Fehler->Rettungskopie.isEmpty())
+    while (const auto Weg = Versuchen(Ziel, Aktueller)) {
+        if (*Weg == Schreibweg::Abbrechen)
             return false;
-        const Ausweg Gewaehlt = AuswegFragen(*Fehler, Anderswo.Meldung);
-        if (Gewaehlt == Ausweg::Keiner)
-            return false;
-        if (Gewaehlt == Ausweg::Nochmals)
+        if (*Weg == Schreibweg::Nochmals)
             continue;
-        if (const QString Neues = Anderswo.PfadFragen(); !Neues.isEmpty()) {
-            Ziel = Neues;
-            Aktueller = Anderswo.Schreiben;
+        // A dialog that was cancelled leads back to the failure: it must not close without an answer.
+        if (const QString Anderer = AnderenPfadFragen(); !Anderer.isEmpty()) {
+            Ziel = Anderer;
+            Aktueller = SpeichernDatenbank3;
         }
     }
     return true;
-}
-
-bool SpeichernUndMelden(const QString& Pfad, const Schreiber& Schreiben) {
-    const auto Fragen = [] {
-        return SpeicherpfadFragen({Tr("Notendatenbank"), QStringLiteral("*.txt")}, AutoDatei());
-    };
-    return SpeichernUndMelden(Pfad, Schreiben,
-                              {Tr("Die Datenbank ist nicht gespeichert!"), Fragen, SpeichernDatenbank3});
 }

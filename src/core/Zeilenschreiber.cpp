@@ -1,9 +1,15 @@
 #include "core/Zeilenschreiber.h"
 
 #include "core/Codeseite.h"
+#include "core/GrosseSeiten.h"
 
 #include <array>
 #include <charconv>
+
+Zeilenschreiber::Zeilenschreiber(qsizetype Erwartet) {
+    Geschrieben.reserve(Erwartet);
+    GrosseSeitenErbitten(Geschrieben.data(), Geschrieben.capacity());
+}
 
 void Zeilenschreiber::Feld(const QString& Text) {
     Trennen();

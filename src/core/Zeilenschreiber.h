@@ -9,6 +9,10 @@
 /// page lacks throws a Laufzeitfehler.
 class Zeilenschreiber {
   public:
+    Zeilenschreiber() = default;
+    /// With room for about so many bytes from the start.
+    explicit Zeilenschreiber(qsizetype Erwartet);
+
     /// Appends a field to the line, behind a tab unless it is the first.
     void Feld(const QString& Text);
     void Feld(qint32 Zahl);

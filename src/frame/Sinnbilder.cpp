@@ -1,5 +1,5 @@
 #include "frame/Sinnbilder.h"
 
 QIcon Sinnbild(const QString& Name) {
-    return QIcon(QStringLiteral(":/symbole/%1.svg").arg(Name));
+    return QIcon(QStringLiteral(":/symbole/%1.png").arg(Name));
 }

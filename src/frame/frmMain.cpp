@@ -61,10 +61,9 @@ void frmMain::Laden() {
     Datenbank.AnzSchueler = Datenbank.AnzKlassen = Datenbank.AnzFaecher = 0;
     Datenbank.AnzNoten = Datenbank.AnzZSchueler = 0;
     DatenGeaendert = FormulierungenGeaendert = false;
-    RettungenAnbieten(); // before any file is read: the parameter file may be one of them
-    LadeParameter();
-    // Before any file is loaded: what a broken-off save has left may be newer than the file.
+    // Before any file is read, the parameter file too: what a broken-off save has left may be newer.
     Ausfuehren(RettungenAnbieten);
+    LadeParameter();
     Ausfuehren(FormulierungenBeimStartLaden);
     tabAnsicht->setCurrentIndex(Reiter::P);
     Ausfuehren([this] { LetzteDateiLaden(); });

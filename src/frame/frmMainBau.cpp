@@ -91,7 +91,9 @@ void frmMain::LeisteBauen() {
     tbToolBar->addSeparator();
     cbPassbild = new QCheckBox(QStringLiteral("Passbilder anzeigen"));
     cbPassbild->setObjectName(QStringLiteral("cbPassbild"));
-    cbPassbild->setEnabled(findChild<QAction*>(QStringLiteral("mnuViewPassbild"))->isEnabled());
+    auto* Zwilling = findChild<QAction*>(QStringLiteral("mnuViewPassbild"));
+    cbPassbild->setEnabled(Zwilling->isEnabled());
+    connect(cbPassbild, &QCheckBox::toggled, Zwilling, &QAction::setChecked);
     tbToolBar->addWidget(cbPassbild);
     JahrgangBauen();
 }

@@ -112,7 +112,7 @@ void AnsichtP::AnsichtPAktiv(bool Ein) {
     Q_EMIT ImportErlaubt(Ein);
 }
 
-AnsichtP::Fuellstand AnsichtP::JetzigerStand() const {
+AnsichtP::Fuellregeln AnsichtP::JetzigeRegeln() const {
     return {GewaehltesFach(),
             GewaehlteProbe(),
             *AktuelleProbe(),
@@ -120,8 +120,12 @@ AnsichtP::Fuellstand AnsichtP::JetzigerStand() const {
             Datenbank.GrenznotenBerechnen,
             Datenbank.GrenznotenPunkteAbstand,
             Datenbank.GrenznotenBeruecksichtigen,
-            Datenbank.GrenznotenNotenAbstand,
-            TeilnehmerDerProbe(GewaehltesFach(), GewaehlteProbe())};
+            Datenbank.GrenznotenNotenAbstand};
+}
+
+bool AnsichtP::GezeigterStandGilt() const {
+    return GezeigterStand && GezeigterStand->Regeln == JetzigeRegeln() &&
+           TeilnehmerStehenNoch(GezeigterStand->Teilnehmer, GewaehltesFach(), GewaehlteProbe());
 }
 
 void AnsichtP::ProbentabelleFuellen() {
@@ -138,13 +142,12 @@ void AnsichtP::ProbentabelleFuellen() {
     if (Gezeigte->Datum.isEmpty())
         Gezeigte->Datum = DatumKurz(Heute());
     FelderFuellen(*Gezeigte);
-    const Fuellstand Stand = JetzigerStand();
-    if (GezeigterStand == Stand) {
+    if (GezeigterStandGilt()) {
         Form->tblPPunkte->setCell(1, Probenspalte::Name);
         Q_EMIT HinweisGewuenscht(Plausibel ? QString() : MeldungUnplausibel);
         return;
     }
-    TabelleAufbauen(Stand.Teilnehmer);
+    TabelleAufbauen(TeilnehmerDerProbe(GewaehltesFach(), GewaehlteProbe()));
     NamenUmgekehrt = false;
     SortierungAnwenden(0);
     {
@@ -152,7 +155,8 @@ void AnsichtP::ProbentabelleFuellen() {
         Form->cbPSortierung->setListIndex(0);
     }
     ProbeAuswerten();
-    GezeigterStand = JetzigerStand();
+    // With the grades that the evaluation has just stored.
+    GezeigterStand = {JetzigeRegeln(), TeilnehmerDerProbe(GewaehltesFach(), GewaehlteProbe())};
 }
 
 void AnsichtP::ProbeLeeren() {

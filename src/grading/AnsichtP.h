@@ -96,8 +96,8 @@ class AnsichtP : public Ansicht {
     int GewaehlteProbe() const;    ///< 1..20
     Probe* AktuelleProbe() const;  ///< nullptr without a subject
 
-    /// All that a fill depends on, as it was after the last one, while the grid still shows just that.
-    struct Fuellstand {
+    /// What a fill depends on beside the participants.
+    struct Fuellregeln {
         qint32 Fach_ID = 0;
         int Probe_ID = 0;
         Probe Inhalt;
@@ -106,11 +106,16 @@ class AnsichtP : public Ansicht {
         float PunkteAbstand = 0;
         bool Beruecksichtigen = false;
         float NotenAbstand = 0;
-        std::vector<Probenteilnehmer> Teilnehmer;
 
-        bool operator==(const Fuellstand&) const = default;
+        bool operator==(const Fuellregeln&) const = default;
     };
-    Fuellstand JetzigerStand() const;
+    /// What the last fill has shown, while the grid still shows just that.
+    struct Fuellstand {
+        Fuellregeln Regeln;
+        std::vector<Probenteilnehmer> Teilnehmer;
+    };
+    Fuellregeln JetzigeRegeln() const;
+    bool GezeigterStandGilt() const;
     void TabelleAufbauen(const std::vector<Probenteilnehmer>& Teilnehmer);
 
     std::unique_ptr<Ui::AnsichtP> Form;

@@ -71,8 +71,28 @@ void NamenEintragen(std::vector<Probenteilnehmer>& Teilnehmer) {
         --Fehlend;
     }
     for (Probenteilnehmer& Einer : Teilnehmer)
-        if (const int Platz = Plaetze.value(Einer.ID); Platz != Offen)
-            Einer.Name = Datenbank.Schueler[Platz].Name;
+        if (Einer.Platz = Plaetze.value(Einer.ID); Einer.Platz != Offen)
+            Einer.Name = Datenbank.Schueler[Einer.Platz].Name;
+}
+
+bool NimmtTeil(const Notenzeile& Zeile, qint32 Fach_ID) {
+    return Zeile.Fach_ID == Fach_ID && Zeile.Teilnahme == QStringLiteral("ja");
+}
+
+bool InDerProbe(const ZSchueler& Einer, qint32 Fach_ID, int Probe_ID) {
+    return Einer.Fach_ID == Fach_ID && Einer.Probe_ID == Probe_ID;
+}
+
+/// True if both are one text object: nobody has written the record since it was copied from there.
+bool Derselbe(const QString& Eines, const QString& Anderes) {
+    return Eines.constData() == Anderes.constData() && Eines.size() == Anderes.size();
+}
+
+bool NameSteht(const Probenteilnehmer& Einer) {
+    if (Einer.Platz < 0)
+        return Einer.Name.isEmpty() && SchuelerIndex(Einer.ID) < 0;
+    const Schueler& Person = Datenbank.Schueler[Einer.Platz];
+    return Einer.Platz < Datenbank.AnzSchueler && Person.ID == Einer.ID && Derselbe(Person.Name, Einer.Name);
 }
 
 } // namespace
@@ -81,17 +101,41 @@ std::vector<Probenteilnehmer> TeilnehmerDerProbe(qint32 Fach_ID, int Probe_ID) {
     std::vector<Probenteilnehmer> Teilnehmer;
     for (int i = 0; i < Datenbank.AnzNoten; ++i) {
         const Notenzeile& Zeile = Datenbank.Noten[i];
-        if (Zeile.Fach_ID == Fach_ID && Zeile.Teilnahme == QStringLiteral("ja"))
-            Teilnehmer.push_back({Zeile.Schueler_ID, {}, Zeile.P[Probe_ID], Zeile.N[Probe_ID]});
+        if (NimmtTeil(Zeile, Fach_ID))
+            Teilnehmer.push_back({Zeile.Schueler_ID, {}, Zeile.P[Probe_ID], Zeile.N[Probe_ID], i, -1});
     }
     NamenEintragen(Teilnehmer);
     for (int i = 0; i < Datenbank.AnzZSchueler; ++i) {
         const ZSchueler& Einer = Datenbank.ZSchueler[i];
-        if (Einer.Fach_ID == Fach_ID && Einer.Probe_ID == Probe_ID)
-            Teilnehmer.push_back({i, Einer.Name, Einer.Punkte, Einer.Note});
+        if (InDerProbe(Einer, Fach_ID, Probe_ID))
+            Teilnehmer.push_back({i, Einer.Name, Einer.Punkte, Einer.Note, i, -1});
     }
     std::reverse(Teilnehmer.begin(), Teilnehmer.end());
     return Teilnehmer;
+}
+
+bool TeilnehmerStehenNoch(const std::vector<Probenteilnehmer>& Teilnehmer, qint32 Fach_ID, int Probe_ID) {
+    auto Naechster = Teilnehmer.rbegin();
+    for (int i = 0; i < Datenbank.AnzNoten; ++i) {
+        const Notenzeile& Zeile = Datenbank.Noten[i];
+        if (!NimmtTeil(Zeile, Fach_ID))
+            continue;
+        if (Naechster == Teilnehmer.rend() || Naechster->Zeile != i || Naechster->ID != Zeile.Schueler_ID ||
+            !Derselbe(Naechster->Punkte, Zeile.P[Probe_ID]) ||
+            !Derselbe(Naechster->Note, Zeile.N[Probe_ID]) || !NameSteht(*Naechster))
+            return false;
+        ++Naechster;
+    }
+    for (int i = 0; i < Datenbank.AnzZSchueler; ++i) {
+        const ZSchueler& Einer = Datenbank.ZSchueler[i];
+        if (!InDerProbe(Einer, Fach_ID, Probe_ID))
+            continue;
+        if (Naechster == Teilnehmer.rend() || Naechster->ID != i || !Derselbe(Naechster->Name, Einer.Name) ||
+            !Derselbe(Naechster->Punkte, Einer.Punkte) || !Derselbe(Naechster->Note, Einer.Note))
+            return false;
+        ++Naechster;
+    }
+    return Naechster == Teilnehmer.rend();
 }
 
 void NotenSpeichern(const std::vector<qint32>& IDs, const std::vector<Zeilenergebnis>& Ergebnisse,

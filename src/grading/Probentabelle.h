@@ -16,8 +16,8 @@ struct Probenteilnehmer {
     QString Name;
     QString Punkte;
     QString Note;
-
-    bool operator==(const Probenteilnehmer&) const = default;
+    int Zeile = -1; ///< where it was read: index in Noten, or in ZSchueler
+    int Platz = -1; ///< index in Schueler of his name; -1 for ZSchueler and where the student is missing
 };
 
 /// True for the ID of a person for this test only.
@@ -28,6 +28,10 @@ constexpr bool IstZSchueler(qint32 ID) {
 /// The participants in the order in which the list shows them unsorted: the last record first, persons for
 /// this test only before the students. A row of grades without its student has an empty name.
 std::vector<Probenteilnehmer> TeilnehmerDerProbe(qint32 Fach_ID, int Probe_ID);
+
+/// True if a list read before still shows what the records hold: the same participants, and none of their
+/// texts has been written since, not even with the same letters. Much quicker than reading it anew.
+bool TeilnehmerStehenNoch(const std::vector<Probenteilnehmer>& Teilnehmer, qint32 Fach_ID, int Probe_ID);
 
 /// Stores the grades that the evaluation has given to these participants, in the same order.
 void NotenSpeichern(const std::vector<qint32>& IDs, const std::vector<Zeilenergebnis>& Ergebnisse,

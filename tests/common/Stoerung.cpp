@@ -17,7 +17,9 @@ QStringList Gerufene;
 bool Trifft(const char* Name) {
     ++Zaehler;
     Gerufene.append(QString::fromLatin1(Name));
-    const bool Jetzt = Geplant.Dauernd ? Zaehler >= Geplant.Stelle : Zaehler == Geplant.Stelle;
+    bool Jetzt = Geplant.Dauernd ? Zaehler >= Geplant.Stelle : Zaehler == Geplant.Stelle;
+    if (Jetzt && Geplant.NurDieser)
+        Jetzt = Gerufene.last() == Gerufene.at(Geplant.Stelle - 1);
     if (!Jetzt || Geplant.Was == Stoerung::Art::Keine)
         return false;
     IstGetroffen = true;

@@ -16,6 +16,7 @@ struct Stoerung {
     int Stelle = 0;       ///< number of the call that is struck
     bool Dauernd = false; ///< and all that follow
     int Fehlernummer = 0;
+    bool NurDieser = false; ///< of those that follow, only calls of the same name: a full disc still deletes
 };
 
 /// Thrown in the place of a call where the process ends. Up to the catch only descriptors are closed, as the

@@ -6,6 +6,7 @@
 #include "core/Meldungen.h"
 #include "core/Orte.h"
 #include "core/Rettung.h"
+#include "core/Systemaufrufe.h"
 
 #include <QDir>
 #include <QFile>
@@ -73,6 +74,11 @@ class TestDateischutzStoerungen : public QObject {
     void JederAufrufDesSpeichernsScheitert();
     void JederAufrufDesSpeichernsIstDerLetzte();
     void KurzeAufrufeAendernNichts();
+    void EineUnterbrechungDurchEinSignalWirdWiederholt();
+    void DieSchritteStehenInDieserReihenfolge_data();
+    void DieSchritteStehenInDieserReihenfolge();
+    void EineLuegendePlatteWirdBeimNachlesenErkannt_data();
+    void EineLuegendePlatteWirdBeimNachlesenErkannt();
     void JederAufrufDesLesensScheitert();
     void JederAufrufDerRettungScheitert();
     void JederAufrufDerRettungIstDerLetzte();
@@ -154,11 +160,16 @@ void TestDateischutzStoerungen::PruefeGanz(const Ausgangslage& Lage, const QStri
     QVERIFY2(Dienst.Angebote == 0, qPrintable(Wo));
 }
 
-/// Each error at each call, once and from then on, until a run meets none.
+/// Each error at each call: once, from then on, and from then on at calls of that name; until a run meets
+/// none.
 void TestDateischutzStoerungen::FuerAlleFehler(const std::function<bool(const Stoerung&)>& Lauf) {
+    struct Dauer {
+        bool Dauernd, NurDieser;
+    };
     for (const int Nummer : Fehlernummern)
-        for (const bool Dauernd : {false, true})
-            for (int Stelle = 1; Lauf({Stoerung::Art::Fehler, Stelle, Dauernd, Nummer}); ++Stelle)
+        for (const Dauer Wie : {Dauer{false, false}, Dauer{true, false}, Dauer{true, true}})
+            for (int Stelle = 1; Lauf({Stoerung::Art::Fehler, Stelle, Wie.Dauernd, Nummer, Wie.NurDieser});
+                 ++Stelle)
                 ++Punkte;
 }
 
@@ -221,6 +232,76 @@ void TestDateischutzStoerungen::KurzeAufrufeAendernNichts() {
             }
         }
     }
+}
+
+void TestDateischutzStoerungen::EineUnterbrechungDurchEinSignalWirdWiederholt() {
+    for (const Ausgangslage& Lage : Lagen()) {
+        for (int Stelle = 1;; ++Stelle) {
+            Herrichten(Lage);
+            const Ergebnis Lauf = Speichern(Lage.Neu, {Stoerung::Art::Fehler, Stelle, false, EINTR});
+            QVERIFY2(!Lauf.Fehler, Lauf.Fehler ? qPrintable(Lauf.Fehler->Text) : "");
+            QCOMPARE(Stand(), std::optional(Lage.Neu));
+            if (!Stoertafel::Getroffen())
+                break;
+        }
+    }
+}
+
+void TestDateischutzStoerungen::DieSchritteStehenInDieserReihenfolge_data() {
+    QTest::addColumn<int>("Lage");
+    QTest::addColumn<QString>("Schritte");
+    // Rescue copy durable, name durable; room; old content gone, new one durable; copy gone.
+    const QString Rettung = QStringLiteral("pwrite pwrite fsync rename fsync ");
+    QTest::newRow("waechst") << 0
+                             << Rettung + QStringLiteral("fallocate ftruncate pwrite fsync unlink fsync");
+    QTest::newRow("schrumpft") << 1 << Rettung + QStringLiteral("ftruncate pwrite fsync unlink fsync");
+    QTest::newRow("neue Datei: ihr Ordner auch")
+        << 2 << Rettung + QStringLiteral("fallocate ftruncate pwrite fsync fsync unlink fsync");
+}
+
+void TestDateischutzStoerungen::DieSchritteStehenInDieserReihenfolge() {
+    QFETCH(int, Lage);
+    QFETCH(QString, Schritte);
+    Herrichten(Lagen().at(Lage));
+    QVERIFY(!Speichern(Lagen().at(Lage).Neu, {}).Fehler);
+    const QStringList Schreibende{QStringLiteral("pwrite"),    QStringLiteral("fsync"),
+                                  QStringLiteral("rename"),    QStringLiteral("fallocate"),
+                                  QStringLiteral("ftruncate"), QStringLiteral("unlink")};
+    QStringList Gesehen = Stoertafel::Namen();
+    Gesehen.removeIf([&](const QString& Name) { return !Schreibende.contains(Name); });
+    QCOMPARE(Gesehen.join(u' '), Schritte);
+}
+
+void TestDateischutzStoerungen::EineLuegendePlatteWirdBeimNachlesenErkannt_data() {
+    QTest::addColumn<int>("Geschriebenes"); // per cent of what is acknowledged
+    QTest::newRow("nichts") << 0;
+    QTest::newRow("die Haelfte") << 50;
+}
+
+void TestDateischutzStoerungen::EineLuegendePlatteWirdBeimNachlesenErkannt() {
+    QFETCH(int, Geschriebenes);
+    static int Anteil = 0;
+    static bool Gekuerzt = false;
+    Anteil = Geschriebenes;
+    Gekuerzt = false;
+    Systemaufrufe Luegend = EchteAufrufe();
+    Luegend.Ftruncate = [](int Fd, off_t Laenge) {
+        Gekuerzt = true; // what is written from now on is the target
+        return EchteAufrufe().Ftruncate(Fd, Laenge);
+    };
+    Luegend.Pwrite = [](int Fd, const void* Puffer, size_t Laenge, off_t Stelle) {
+        const size_t Wirklich = Gekuerzt ? Laenge * static_cast<size_t>(Anteil) / 100 : Laenge;
+        return EchteAufrufe().Pwrite(Fd, Puffer, Wirklich, Stelle) < 0 ? -1 : static_cast<ssize_t>(Laenge);
+    };
+    Herrichten(Lagen().first());
+    AufrufeSetzen(&Luegend);
+    const auto Fehler = DateiSchreiben(Ziel(), Langer);
+    AufrufeSetzen(nullptr);
+    QVERIFY(Fehler.has_value());
+    QCOMPARE(Fehler->Schritt, QStringLiteral("Nachlesen"));
+    const auto Kopie = RettungsinhaltLesen(Testwelt::DateiInhalt(Fehler->Rettungskopie));
+    QVERIFY(Kopie.has_value());
+    QCOMPARE(Kopie->Inhalt, Langer);
 }
 
 void TestDateischutzStoerungen::JederAufrufDesLesensScheitert() {

@@ -47,6 +47,18 @@ class TestCodeseite : public QObject {
         QCOMPARE(InCodeseite(Zeichen), Bytes);
     }
 
+    void jedesZeichenGiltAnJederStelleEinesLangenTextes() {
+        for (int Stelle = 0; Stelle < 40; ++Stelle) {
+            QString Text(40, u'a');
+            QByteArray Bytes(40, 'a');
+            Text[Stelle] = u'€';
+            Bytes[Stelle] = '\x80';
+            QCOMPARE(InCodeseite(Text), Bytes);
+            Text[Stelle] = u'\u0103';
+            QVERIFY_THROWS_EXCEPTION(Laufzeitfehler, InCodeseite(Text));
+        }
+    }
+
     void haengtAnDasZielAn() {
         QByteArray Ziel("a");
         InCodeseite(QStringLiteral("ü€"), Ziel);

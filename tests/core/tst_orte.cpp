@@ -64,7 +64,10 @@ class TestOrte : public QObject {
     void einSchreibgeschuetzterOrdnerGiltNicht() {
         const QString Ordner = Welt.Pfad(QStringLiteral("programmordner"));
         Welt.DateiAnlegen(QStringLiteral("programmordner/Tafelquell.ini"), "eigene");
-        QFile::setPermissions(Ordner, QFile::ReadOwner | QFile::ExeOwner);
+        const auto Lesbar = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup |
+                            QFile::ReadOther | QFile::ExeOther;
+        QFile::setPermissions(Welt.Ordner(), Lesbar | QFile::WriteOwner);
+        QFile::setPermissions(Ordner, Lesbar);
         const QString Daten = Welt.Pfad(QStringLiteral("daten"));
         // For root every folder can be written, so root asks as the user "nobody".
         const bool Root = ::geteuid() == 0;

@@ -151,6 +151,7 @@ class TestHauptfenster : public QObject {
         EinstellungSchreiben(QStringLiteral("Passbild"), QStringLiteral("1"));
         Fenster.Starten();
         QVERIFY(Fenster.Kind<QCheckBox>("cbPassbild")->isChecked());
+        QVERIFY(Fenster.Aktion("mnuViewPassbild")->isChecked());
         Fenster.Kind<QCheckBox>("cbPassbild")->setChecked(false);
         Fenster->close();
         QCOMPARE(EinstellungLesen(QStringLiteral("Passbild"), {}), QStringLiteral("0"));

@@ -300,7 +300,7 @@ class TestDlgOptions : public QObject {
 
     void derDialogStehtUeberDemFensterDasIhnRief() {
         QWidget Fenster;
-        Fenster.move(20, 60);
+        Fenster.move(2, 60);
         Fenster.show();
         {
             const dlgOptions Kind(&Fenster);

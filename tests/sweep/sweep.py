@@ -56,9 +56,9 @@ class Durchgang:
         self.neu = self.stand("36")
         self.anders = self.stand("12,5")
 
-    def stand(self, punkte):
+    def stand(self, punkte, buch=None):
         """The grade book as the program writes it with these points, in a run without a fault."""
-        self.welt.frisch(self.alt)
+        self.welt.frisch(buch or self.alt)
         ausgang = self.welt.lauf([*KOPF, *speichern_mit(punkte), "aktion mnuFileExit"])
         inhalt = self.welt.inhalt(self.welt.buch)
         assert ausgang == "ende" and f"\t{punkte}\t".encode() in inhalt, (ausgang, self.welt.meldungen())
@@ -187,18 +187,20 @@ class Durchgang:
 
     def zufaellig(self):
         """Kills at random moments of a session of many saves; each writes other points."""
-        werte = [str(punkte) for punkte in range(1, 11 if self.kurz else 31)]
-        staende = [self.alt] + [self.stand(punkte) for punkte in werte]
+        werte = [str(punkte) for punkte in range(1, 11)]
+        # Three megabytes: writing them takes long enough to be hit.
+        alt = self.alt.replace(b"Unterricht.\n", b"Unterricht.\n" + 3000 * (1000 * b"x" + b"\n"))
+        staende = [alt] + [self.stand(punkte, alt) for punkte in werte]
         skript = list(KOPF)
         for punkte in werte:
             skript += [*speichern_mit(punkte), f'melde "{punkte}"']
-        self.welt.frisch(self.alt)
+        self.welt.frisch(alt)
         beginn = jetzt()
         assert self.welt.lauf([*skript, "aktion mnuFileExit"]) == "ende", self.welt.meldungen()
         dauer = jetzt() - beginn
         zufall = random.Random(2003)
         for _ in range(30 if self.kurz else 1000):
-            self.welt.frisch(self.alt)
+            self.welt.frisch(alt)
             prozess = self.welt.starten(skript)
             pause = zufall.uniform(0.02, dauer)
             try:
