@@ -109,6 +109,28 @@ def parameter_variants(data):
     yield "winzige-zahl", data.replace(b"\t94\t", b"\t1e-44\t", 1)
 
 
+PHRASE_HEAD = "[Beurteilungsvorlagen für Tafelquell 3.0]".encode(CP)
+
+
+def small_phrase_file(data):
+    """Three areas with three phrases each."""
+    head, sections = sections_of(data)
+    return joined([head, *(line for section in sections[:3] for line in section[:4])])
+
+
+def phrase_variants(data):
+    yield "version-2", data.replace(b"3.0]", b"2.0]", 1)
+    yield "kopf-abgeschnitten", data[:38]
+    yield "kopf-ohne-version", data[:39]
+    yield "verwaist", joined([PHRASE_HEAD, b"+ verwaist", b"[A]"])
+    yield "klammern", joined([PHRASE_HEAD, b"[]", b"[", b"]", b"[x]y]", b" [x]", b"[x] "])
+    yield "leere-zeilen", joined([PHRASE_HEAD, b"[A]", b"", b"+", b"? x", b""])
+    for areas in (99, 100):
+        yield f"bereiche-{areas}", joined([PHRASE_HEAD] + [b"[x]"] * areas)
+    for phrases in (200, 201):
+        yield f"formulierungen-{phrases}", joined([PHRASE_HEAD, b"[x]"] + [b"o"] * phrases)
+
+
 def small_parameter_file(data):
     """Three rows of the long tables: what matters is damage, and short inputs make many executions."""
     head, sections = sections_of(data)
@@ -130,6 +152,8 @@ def main():
     books = [*variants(book), *section_variants(book), *database_variants(book)]
     write("datenbank", books)
     write("fremdschueler", books)
+    phrases = small_phrase_file((ROOT / "data" / "Formulierungen.txt").read_bytes())
+    write("formulierungen", [*variants(phrases), *section_variants(phrases), *phrase_variants(phrases)])
     write("parameter", [*variants(ini), *section_variants(ini), *parameter_variants(ini)])
 
 

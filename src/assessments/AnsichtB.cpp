@@ -60,6 +60,9 @@ AnsichtB::AnsichtB(QWidget* Eltern)
     setTabOrder(txtBEingabe, Form->btBDatum);
     setTabOrder(Form->tblBFloskel, txtBEingabe2);
     setTabOrder(txtBEingabe2, Form->picSmileyContainer);
+    for (int Seite = 0; Seite < Form->Teiler->count(); ++Seite)
+        Form->Teiler->setStretchFactor(Seite, 1);
+    Form->Teiler->setSizes({width(), width()});
     LernbereicheFuellen();
 }
 

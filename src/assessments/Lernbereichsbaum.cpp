@@ -8,6 +8,11 @@
 
 namespace {
 
+/// A tool tip that shows the name as it stands, whatever it looks like.
+QString AlsTipp(const QString& Name) {
+    return QStringLiteral("<span>") + Name.toHtmlEscaped() + QStringLiteral("</span>");
+}
+
 /// The box of a label takes what the phrase file can hold; what it gives goes to the tree as a wish.
 class Beschriftung : public QStyledItemDelegate {
   public:
@@ -67,6 +72,7 @@ void Lernbereichsbaum::KnotenSetzen(const QStringList& Namen) {
 
 void Lernbereichsbaum::NeuenKnotenAnfuegen(const QString& Neuer) {
     auto* Eintrag = new QTreeWidgetItem({Neuer});
+    Eintrag->setToolTip(0, AlsTipp(Neuer)); // a long name is cut in a narrow tree
     Eintrag->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsDragEnabled);
     addTopLevelItem(Eintrag);
 }
@@ -85,8 +91,11 @@ QString Lernbereichsbaum::Name(int Nummer) const {
 }
 
 void Lernbereichsbaum::NameSetzen(int Nummer, const QString& Name) {
-    if (QTreeWidgetItem* Eintrag = topLevelItem(Nummer))
-        Eintrag->setText(0, Name);
+    QTreeWidgetItem* Eintrag = topLevelItem(Nummer);
+    if (!Eintrag)
+        return;
+    Eintrag->setText(0, Name);
+    Eintrag->setToolTip(0, AlsTipp(Name));
 }
 
 void Lernbereichsbaum::setHervorgehoben(int Nummer) {

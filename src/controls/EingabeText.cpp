@@ -19,8 +19,9 @@ EingabeText::EingabeText(Gitter* Eigner)
     , Tabelle(Eigner)
     , Anker(new Zellanker(this, Eigner))
     , Waechter(new Fokuswaechter(this)) {
-    setFrameShape(NoFrame);
-    document()->setDocumentMargin(Gitter::UmbruchRand);
+    setFrameStyle(Box | Plain); // shows where one writes, also while the focus is elsewhere
+    setLineWidth(1);
+    document()->setDocumentMargin(Gitter::UmbruchRand - lineWidth());
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -5,6 +5,7 @@
 #include "core/Definitionen.h"
 #include "core/Einstellungen.h"
 #include "core/Oberflaeche.h"
+#include "core/Systemaufrufe.h"
 
 #include <QDir>
 #include <QFile>
@@ -24,6 +25,73 @@ class Mitschrift : public Oberflaeche {
     void AnsichtAktualisieren() override { Aufrufe.append(QStringLiteral("Ansicht")); }
     void LernbereicheFuellen() override { Aufrufe.append(QStringLiteral("Lernbereiche")); }
     void FormulierungenFuellen() override { Aufrufe.append(QStringLiteral("Formulierungen")); }
+};
+
+/// One of the calls that write fails once, at its n-th use.
+class Fehlerstelle {
+  public:
+    Fehlerstelle(int Welcher, int Zeitpunkt) {
+        Zaehler = Zeitpunkt;
+        Tabelle = EchteAufrufe();
+        switch (Welcher) {
+        case 0:
+            Tabelle.Open = [](const char* Pfad, int Schalter, mode_t Rechte) {
+                return Dran() ? -1 : EchteAufrufe().Open(Pfad, Schalter, Rechte);
+            };
+            break;
+        case 1:
+            Tabelle.Pwrite = [](int Fd, const void* Puffer, size_t Laenge, off_t Stelle) -> ssize_t {
+                return Dran() ? -1 : EchteAufrufe().Pwrite(Fd, Puffer, Laenge, Stelle);
+            };
+            break;
+        case 2:
+            Tabelle.Ftruncate = [](int Fd, off_t Laenge) {
+                return Dran() ? -1 : EchteAufrufe().Ftruncate(Fd, Laenge);
+            };
+            break;
+        case 3:
+            Tabelle.Fsync = [](int Fd) { return Dran() ? -1 : EchteAufrufe().Fsync(Fd); };
+            break;
+        case 4:
+            Tabelle.Rename = [](const char* Alt, const char* Neu) {
+                return Dran() ? -1 : EchteAufrufe().Rename(Alt, Neu);
+            };
+            break;
+        default:
+            Tabelle.Read = [](int Fd, void* Puffer, size_t Laenge) -> ssize_t {
+                return Dran() ? -1 : EchteAufrufe().Read(Fd, Puffer, Laenge);
+            };
+        }
+        AufrufeSetzen(&Tabelle);
+    }
+    ~Fehlerstelle() { AufrufeSetzen(nullptr); }
+    Q_DISABLE_COPY_MOVE(Fehlerstelle)
+
+    bool Getroffen() const { return Zaehler <= 0; }
+
+  private:
+    static bool Dran() {
+        errno = EIO;
+        return --Zaehler == 0;
+    }
+    static inline int Zaehler = 0;
+    Systemaufrufe Tabelle;
+};
+
+/// Boxes that are only noted down; a choice is given up.
+class NurNein : public Meldungsdienst {
+  public:
+    QStringList Texte;
+    Antwort Zeigen(const Meldungstext& Meldung) override {
+        Texte.append(Meldung.Text);
+        return Antwort::Ok;
+    }
+    int Waehlen(const Auswahlfrage& Frage) override {
+        Texte.append(Frage.Text);
+        return static_cast<int>(Frage.Knoepfe.size()) - 1;
+    }
+    std::optional<Dateiwahl> Oeffnen(const Dateiwunsch&) override { return {}; }
+    std::optional<Dateiwahl> Speichern(const Dateiwunsch&) override { return {}; }
 };
 
 QString Setting() {
@@ -469,6 +537,38 @@ class FormulierungenTest : public QObject {
         QVERIFY(FormulierungenSpeichern());
         QCOMPARE(Testwelt::DateiInhalt(Neu), Kopfzeile + "[Neu]\r\n");
         QCOMPARE(Setting(), Neu);
+    }
+
+    /// The faults of the grade book's saves: each call in turn fails once, and old or new content is whole.
+    void AFaultAtAnyCallLosesNothing_data() {
+        QTest::addColumn<int>("Welcher");
+        for (int Welcher = 0; Welcher < 6; ++Welcher)
+            QTest::addRow("call %d", Welcher) << Welcher;
+    }
+    void AFaultAtAnyCallLosesNothing() {
+        QFETCH(int, Welcher);
+        for (int Zeitpunkt = 1; Zeitpunkt < 60; ++Zeitpunkt) {
+            const QString Pfad = GeaenderterSpeicher();
+            AnzLernbereiche = 1;
+            bool Getroffen = false;
+            {
+                const Fehlerstelle Stelle(Welcher, Zeitpunkt);
+                NurNein Boxen;
+                MeldungsdienstSetzen(&Boxen);
+                const bool Gespeichert = FormulierungenSpeichern();
+                MeldungsdienstSetzen(&Welt.Boxen);
+                QCOMPARE(FormulierungenGeaendert, !Gespeichert);
+                Getroffen = Stelle.Getroffen();
+                const QByteArray Inhalt = Testwelt::DateiInhalt(Pfad);
+                const bool Alt = Inhalt == Kopfzeile + "[Alt]\r\n";
+                const bool Neu = Inhalt == Kopfzeile + "[Neu]\r\n";
+                const bool Gerettet = Boxen.Texte.join(u' ').contains(QStringLiteral("zustand"));
+                QVERIFY2(Gespeichert ? Neu : Alt || Neu || Gerettet,
+                         qPrintable(QStringLiteral("fault %1 lost the file").arg(Zeitpunkt)));
+            }
+            if (!Getroffen)
+                return;
+        }
     }
 
     void ACharacterThatNoFileCanHoldIsReportedAndNothingWritten() {

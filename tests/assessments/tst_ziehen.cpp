@@ -95,22 +95,28 @@ class ZiehenTest : public QObject {
                            "auch zu Hause, und trug ihre Texte sicher vor der ganzen Klasse vor.");
         F->Text().setPlainText(QString(Text).remove(u'\r'));
         const Schriftmass Mass(F->Text().font());
-        const QMargins Rand(2, 2, 2, 2);
+        const auto NachRegel = [&](int x, int y) {
+            constexpr int Rand = 1; // of the text in the viewport
+            const int Stelle =
+                TextPositionBerechnen(Mass, Text, F->Text().width() * 15, (x - Rand) * 15, (y - Rand) * 15);
+            // In the box a line break is one character.
+            return Stelle - static_cast<int>(QStringView(Text).first(Stelle).count(u'\r'));
+        };
+        const auto Gleich = [&](int x, int y) { // up to the pixels that rounding moves a border
+            const int Auf = F->Text().WortstelleBei({x, y});
+            for (const int Dy : {0, -2, 2})
+                for (const int Dx : {0, -3, 3})
+                    if (Auf == NachRegel(x + Dx, y + Dy))
+                        return true;
+            return false;
+        };
         int Verglichen = 0;
+        int Einig = 0;
         for (int y = 4; y < Kasten().height() - 4; y += 5)
-            for (int x = 4; x < Kasten().width() - 4; x += 7) {
-                const int Nach = TextPositionBerechnen(Mass, Text, Kasten().width() * 15,
-                                                       (x - Rand.left()) * 15, (y - Rand.top()) * 15);
-                // In the box a line break is one character.
-                const int Erwartet = Nach - static_cast<int>(QStringView(Text).first(Nach).count(u'\r'));
-                const int Auf = F->Text().WortstelleBei({x, y});
-                Verglichen += Auf == Erwartet;
-                if (Auf != Erwartet)
-                    qInfo("x %d y %d: screen %d, rules %d", x, y, Auf, Erwartet);
-            }
-        const int Alle = ((Kasten().height() - 8 + 4) / 5) * ((Kasten().width() - 8 + 6) / 7);
-        QVERIFY2(Verglichen >= Alle * 95 / 100,
-                 qPrintable(QStringLiteral("%1 of %2 places").arg(Verglichen).arg(Alle)));
+            for (int x = 4; x < Kasten().width() - 4; x += 7, ++Verglichen)
+                Einig += Gleich(x, y);
+        QVERIFY2(Einig >= Verglichen * 98 / 100,
+                 qPrintable(QStringLiteral("%1 of %2 places").arg(Einig).arg(Verglichen)));
     }
 
     void AnAreaCannotBeDroppedOnAnAssessment() {
@@ -154,10 +160,10 @@ class ZiehenTest : public QObject {
         QCoreApplication::processEvents();
         F->Schueler().setTopRow(3);
         QCOMPARE(F->Schueler().TopRow(), 3);
-        F->Darueber(Schueler(), Ziehart::Formulierung, QPoint(200, 2));
-        QCOMPARE(F->Schueler().Row(), 2);
-        F->Schueler().setTopRow(1);
-        F->Darueber(Schueler(), Ziehart::Formulierung, QPoint(200, 2));
+        F->Darueber(Schueler(), Ziehart::Formulierung, QPoint(200, 2)); // two events: two rows
+        QCOMPARE(F->Schueler().Row(), 1);
+        QCOMPARE(F->Schueler().TopRow(), 1);
+        F->Darueber(Schueler(), Ziehart::Formulierung, QPoint(200, 2)); // the topmost stays
         QCOMPARE(F->Schueler().Row(), 1);
     }
 

@@ -1,5 +1,6 @@
 #include "common/Rundreise.h"
 
+#include "assessments/Formulierungsdatei.h"
 #include "core/Datenbankleser.h"
 #include "core/Datenbankschreiber.h"
 #include "core/Definitionen.h"
@@ -67,6 +68,38 @@ QString ParameterRundreise(const QByteArray& Bytes) {
     if (!ParameterLesen(Geschrieben).isEmpty())
         return QStringLiteral("das Geschriebene wird abgelehnt");
     if (ParameterBytes() != Geschrieben)
+        return QStringLiteral("zweimal geschrieben ist nicht dasselbe");
+    return {};
+}
+
+namespace {
+
+QString BereicheGeprueft() {
+    if (AnzLernbereiche < 0 || AnzLernbereiche > MaxLernbereiche)
+        return QStringLiteral("zu viele Lernbereiche: %1").arg(AnzLernbereiche);
+    if (Lernbereiche[AnzLernbereiche].Anzahl != 0)
+        return QStringLiteral("hinter dem letzten Lernbereich steht kein leerer");
+    for (int i = 0; i < AnzLernbereiche; ++i)
+        if (Lernbereiche[i].Anzahl < 0 || Lernbereiche[i].Anzahl > MaxFormulierungen)
+            return QStringLiteral("zu viele Formulierungen: %1").arg(Lernbereiche[i].Anzahl);
+    return {};
+}
+
+} // namespace
+
+QString FormulierungenRundreise(const QByteArray& Bytes) {
+    using Art = Formulierungsbefund::Art;
+    LernbereicheLeeren(Lernbereiche, AnzLernbereiche);
+    if (Bytes.size() % 8 == 0) // some are added to a store that holds something
+        FormulierungenLesen(QByteArrayView(Bytes).first(Bytes.size() / 2), Lernbereiche, AnzLernbereiche);
+    const Formulierungsbefund Befund = FormulierungenLesen(Bytes, Lernbereiche, AnzLernbereiche);
+    if (const QString Falsch = BereicheGeprueft(); !Falsch.isEmpty() || Befund.Was != Art::Gut)
+        return Falsch;
+    const QByteArray Geschrieben = FormulierungenBytes(Lernbereiche, AnzLernbereiche);
+    LernbereicheLeeren(Lernbereiche, AnzLernbereiche);
+    if (FormulierungenLesen(Geschrieben, Lernbereiche, AnzLernbereiche).Was != Art::Gut)
+        return QStringLiteral("das Geschriebene lädt nicht");
+    if (FormulierungenBytes(Lernbereiche, AnzLernbereiche) != Geschrieben)
         return QStringLiteral("zweimal geschrieben ist nicht dasselbe");
     return {};
 }

@@ -15,3 +15,7 @@ QString FremdschuelerRundreise(const QByteArray& Bytes);
 
 /// Reads the bytes as a parameter file. If they are taken, what is written from memory gives the same again.
 QString ParameterRundreise(const QByteArray& Bytes);
+
+/// Reads the bytes as a phrase file, added to what some of the bytes before them gave. However it ends, the
+/// bounds of the store hold. If all is taken, what is written from memory gives the same again.
+QString FormulierungenRundreise(const QByteArray& Bytes);

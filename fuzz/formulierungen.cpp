@@ -1,0 +1,5 @@
+#include "Fuzzziel.h"
+
+#include "common/Rundreise.h"
+
+FUZZZIEL(FormulierungenRundreise)
