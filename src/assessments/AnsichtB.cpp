@@ -77,6 +77,9 @@ AnsichtB::~AnsichtB() {
 }
 
 void AnsichtB::SchuelerseiteEinrichten() {
+    // They cover the panel: the mouse over them counts as over it.
+    Form->Teiler->setMouseTracking(true);
+    Form->Schuelerseite->setMouseTracking(true);
     Gitter* Tabelle = Form->tblBeurteilungen;
     Tabelle->setCols(2);
     Tabelle->setRows(2);
@@ -124,6 +127,8 @@ void AnsichtB::NameEinrichten() {
         Hinweis(QStringLiteral("Hier steht der Name, wie er in der Formulierung verwendet werden soll"));
     });
     EingabezaehlerAktion(Namensplatz, [this] { VornameGeaendert(); });
+    // Before a student is entered the phrases read as for a girl, and must be taken back from that form.
+    Form->obBWeiblich->setChecked(true);
     const auto Geschlecht = [this](QRadioButton* Knopf, const QString& Wert) {
         connect(Knopf, &QRadioButton::toggled, this, [this, Wert](bool An) {
             if (!An || !GridEreignisseAktiv)

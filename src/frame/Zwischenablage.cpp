@@ -33,7 +33,8 @@ void Entfernen(QLineEdit& Feld) {
 }
 
 void AusAblage(QLineEdit& Feld) {
-    Feld.paste();
+    if (!Feld.isReadOnly()) // Qt itself would paste into it
+        Feld.paste();
 }
 
 void InAblage(QPlainTextEdit& Feld) {

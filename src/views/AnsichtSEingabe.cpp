@@ -78,8 +78,9 @@ void AnsichtS::SchuelerZelleBetreten() {
     if (AusKopfecke())
         return;
     txtSEingabe->Zeigen(tblSSchueler->TextMatrix(tblSSchueler->Row(), tblSSchueler->Col()));
-    // Participation is only turned round, never typed, pasted or deleted.
-    txtSEingabe->setReadOnly(InSchuelerzeile() && InFachspalte());
+    // Participation is turned round by the blank; nothing is typed into it, also by no input method. Cut and
+    // paste are the other way in.
+    txtSEingabe->setAttribute(Qt::WA_InputMethodEnabled, !(InSchuelerzeile() && InFachspalte()));
     EingabeZaehler[Zaehlerplatz] = 0;
     if (InFachspalte())
         AktFachID = tblSSchueler->ColData(tblSSchueler->Col());

@@ -358,6 +358,13 @@ class AnsichtBSchuelerTest : public QObject {
         QCOMPARE(Liste.currentText(), QStringLiteral("8c"));
     }
 
+    void TheMouseOverTheBarePanelClearsTheHint() {
+        F->Hinweis = QStringLiteral("alt");
+        // The place of the hidden button is bare.
+        QTest::mouseMove(&F->Teil("Schuelerseite"), F->Teil("btBDatum").geometry().center());
+        QTRY_COMPARE(F->Hinweis, QString());
+    }
+
     void TheGridModelKeepsItsPromises() {
         QAbstractItemModelTester Schueler(F->Schueler().model(),
                                           QAbstractItemModelTester::FailureReportingMode::QtTest);

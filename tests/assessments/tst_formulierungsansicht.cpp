@@ -339,6 +339,18 @@ class FormulierungsansichtTest : public QObject {
         QCOMPARE(Lernbereiche[0].Formulierung[1], QStringLiteral("o ***** und sie"));
     }
 
+    void BeforeAStudentIsEnteredAPhraseIsTakenBackFromTheFormItShows() {
+        F.reset();
+        AnzLernbereiche = 0;
+        F = std::make_unique<Beurteilungsfenster>();
+        QVERIFY(F->Feld<QRadioButton>("obBWeiblich").isChecked());
+        QCOMPARE(F->Zeilen().at(2), QStringLiteral("Sie stört."));
+        EditorOeffnen(2);
+        EditorTextErsetzen("Sie lacht.");
+        QTest::keyClick(&F->Editor(), Qt::Key_Escape);
+        QCOMPARE(F->Gespeichert(0).at(2), QStringLiteral("- Er lacht."));
+    }
+
     void EscapeStoresAndHides() {
         EditorOeffnen(2);
         EditorTextErsetzen("Sie liest nie.");

@@ -1,8 +1,13 @@
 #include "Hauptfenster.h"
+#include "common/Testbuch.h"
 #include "common/Testprogramm.h"
 #include "controls/Ansicht.h"
+#include "controls/EingabeFeld.h"
+#include "controls/Gitter.h"
 #include "controls/Kombinationsfeld.h"
 #include "controls/Textfeld.h"
+#include "core/Definitionen.h"
+#include "core/FktSpeziell.h"
 #include "frame/Zwischenablage.h"
 
 #include <QClipboard>
@@ -90,6 +95,33 @@ class TestZwischenablage : public QObject {
         Ablage().setText(QStringLiteral("a\tb\u0219"));
         Fenster.Aktion("mnuEditPaste")->trigger();
         QCOMPARE(Feld->text(), QStringLiteral("a b"));
+    }
+
+    void EinFeldDasNurZeigtNimmtNichts() {
+        auto* Feld = Neues<Textfeld>();
+        Feld->setText(QStringLiteral("3,20"));
+        Feld->setReadOnly(true);
+        Feld->selectAll();
+        Fenster.Aktion("mnuEditPaste")->trigger();
+        Fenster.Aktion("mnuEditCut")->trigger();
+        QCOMPARE(Feld->text(), QStringLiteral("3,20"));
+        QCOMPARE(Ablage().text(), QStringLiteral("3,20"));
+    }
+
+    void AusschneidenLeertEineTeilnahmeUndDerAbschlussSpeichertEs() {
+        TestbuchLaden(QStringLiteral("Klasse 7a\nFach 50000 7a Mathematik\nSchueler 10000 7a Bauer Anna\n"
+                                     "Note 10000 50000 Teilnahme=ja\n"));
+        Fenster.Reiter()->setCurrentIndex(0);
+        Fenster.Kind<Gitter>("tblSSchueler")->setCell(2, 1);
+        auto* Feld = Fenster.Kind<EingabeFeld>("txtSEingabe");
+        QCOMPARE(Feld->text(), QStringLiteral("ja"));
+        Feld->selectAll();
+        Fenster.Aktion("mnuEditCut")->trigger();
+        QCOMPARE(Feld->text(), QString());
+        Fenster->FokusNehmen();
+        QCOMPARE(Datenbank.Noten[NotenIndex(10000, 50000)].Teilnahme, QString());
+        QVERIFY(DatenGeaendert);
+        DatenGeaendert = false;
     }
 
     void DieTastenTunDasselbeWieDasMenue() {
