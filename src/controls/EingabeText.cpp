@@ -22,6 +22,8 @@ EingabeText::EingabeText(Gitter* Eigner)
     setFrameStyle(Box | Plain); // shows where one writes, also while the focus is elsewhere
     setLineWidth(1);
     document()->setDocumentMargin(Gitter::UmbruchRand - lineWidth());
+    setViewportMargins(
+        0, 0, 1, 0); // breaks lines where TextPositionBerechnen does: 2 pixels and a blank from the edge
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -87,14 +89,13 @@ QTextLine ZeileBei(const QTextLayout& Absatz, double Y) {
     return {};
 }
 
-int WortInZeile(const QString& Absatz, const QTextLine& Zeile, double X) {
+int WortInZeile(const QString& Absatz, const QTextLine& Zeile, double X, double Leerzeichen) {
     int Ende = Zeile.textStart() + Zeile.textLength();
-    if (X > Zeile.x() + Zeile.naturalTextWidth()) {
-        while (Ende > Zeile.textStart() && Absatz[Ende - 1] == u' ' && Ende < Absatz.size())
-            --Ende;
+    while (Ende > Zeile.textStart() && Absatz[Ende - 1] == u' ' && Ende < Absatz.size())
+        --Ende;
+    if (X > Zeile.cursorToX(Ende) + Leerzeichen)
         return Ende;
-    }
-    int Stelle = Zeile.xToCursor(X, QTextLine::CursorOnCharacter);
+    int Stelle = qMin(Ende, Zeile.xToCursor(X, QTextLine::CursorOnCharacter));
     while (Stelle > 0 && Absatz[Stelle - 1] != u' ')
         --Stelle;
     return Stelle;
@@ -108,7 +109,8 @@ int EingabeText::WortstelleBei(QPoint Ort) const {
     while (Absatz.isValid()) {
         const QTextLine Zeile = ZeileBei(*Absatz.layout(), Ort.y() - Platz.top());
         if (Zeile.isValid())
-            return Absatz.position() + WortInZeile(Absatz.text(), Zeile, Ort.x() - Platz.left());
+            return Absatz.position() + WortInZeile(Absatz.text(), Zeile, Ort.x() - Platz.left(),
+                                                   fontMetrics().horizontalAdvance(u' '));
         Absatz = Absatz.next();
         Platz = blockBoundingGeometry(Absatz).translated(contentOffset());
     }

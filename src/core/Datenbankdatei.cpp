@@ -84,9 +84,46 @@ bool EinlesenUndMelden(const QString& Pfad) {
         return false;
     }
     const Leseergebnis Ergebnis = DatenbankLesen(*Inhalt.Bytes, Inhalt.Ganz, FeldwarnungZeigen);
-    LadebefundMerken(Pfad, !Inhalt.Ganz, Ergebnis.Entfallen);
+    // The line of a failure and those behind it are not in memory either.
+    const bool Abgebrochen = Ergebnis.Ende == Leseergebnis::Ausgang::Fehlgeschlagen;
+    LadebefundMerken(Pfad, !Inhalt.Ganz, Ergebnis.Entfallen + (Abgebrochen ? 1 : 0));
     Uebernehmen(Pfad, Ergebnis);
     return Ergebnis.Ende == Leseergebnis::Ausgang::Gelesen;
+}
+
+bool GiltAlsMarke(QStringView Zeile) {
+    return !Zeile.isEmpty() && ((Zeile.front() == u'#' && Zeile.back() == u'#') ||
+                                (Zeile.front() == u'[' && Zeile.back() == u']'));
+}
+
+/// The first line of a text that loading would take for a marker; empty if there is none.
+QString Markenzeile(const QString& Text) {
+    if (!Text.contains(u'#') && !Text.contains(u']'))
+        return {};
+    for (const QStringView Zeile : QStringView(Text).split(u'\n')) {
+        const QStringView Ohne = Zeile.endsWith(u'\r') ? Zeile.chopped(1) : Zeile;
+        if (GiltAlsMarke(Ohne))
+            return Ohne.toString();
+    }
+    return {};
+}
+
+/// The format has no way to write such a line as text. It is written as it stands, but not in silence: the
+/// next load would fail at it, or lose what stands behind it.
+void MarkenzeilenMelden() {
+    for (int s = 0; s < Datenbank.AnzSchueler; ++s)
+        for (const QString& Text : Datenbank.Schueler[s].Beurteilung)
+            if (const QString Zeile = Markenzeile(Text); !Zeile.isEmpty()) {
+                MeldungZeigen(
+                    Tr("Die Datei ist gespeichert, aber die Beurteilung von %1 (%2) enthält die Zeile "
+                       "\"%3\". "
+                       "Eine Zeile, die mit # beginnt und endet oder in eckigen Klammern steht, hält das "
+                       "Programm beim nächsten Laden nicht für Text; die Datei lässt sich dann womöglich "
+                       "nicht mehr öffnen. Bitte ändern Sie die Zeile und speichern Sie noch einmal!")
+                        .arg(Datenbank.Schueler[s].Name, Datenbank.Schueler[s].Klasse, Zeile.left(80)),
+                    {}, Symbol::Warnung);
+                return;
+            }
 }
 
 void Speichern(const QString& Pfad, char Version) {
@@ -103,6 +140,8 @@ void Speichern(const QString& Pfad, char Version) {
             Tr("Beim Laden dieser Datei konnten einige Zeilen nicht zugeordnet werden; sie sind in der "
                "gespeicherten Datei nicht mehr enthalten. Die ursprüngliche Datei liegt in %1.")
                 .arg(Kopie));
+    if (Version == '3')
+        MarkenzeilenMelden();
 }
 
 } // namespace

@@ -31,7 +31,8 @@ class Schreibfehler : public Laufzeitfehler {
 /// Writes Datenbank to the file by the procedure that never loses one, stores the path as AutoDatei, clears
 /// DatenGeaendert and sets the title. A failure throws a Schreibfehler, or another Laufzeitfehler when
 /// nothing was tried (a character without a byte, a file that was never read whole); flag, settings and title
-/// are then as before.
+/// are then as before. An assessment with a line that loading would take for a marker is written as it
+/// stands; the user is told which one.
 void SpeichernDatenbank3(const QString& Pfad);
 /// The same in the older format without assessments.
 void SpeichernDatenbank2(const QString& Pfad);

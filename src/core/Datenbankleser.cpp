@@ -55,7 +55,12 @@ void Datenbankleser::Lesen() {
 
 void Datenbankleser::AbschnittBeginnen() {
     Beurteilungen.Abschliessen();
-    if (!Quelle.AbschnittBeginnen() || Quelle.Abschnittsart() != Abschnitt::Schueler)
+    const bool MarkeLeer = Quelle.Zeile().empty();
+    const bool MitKopf = Quelle.AbschnittBeginnen();
+    // They may have been lines of an assessment, and no save writes them again.
+    if (Quelle.Abschnittsart() == Abschnitt::Keiner)
+        OhnePlatz += (MarkeLeer ? 0 : 1) + (MitKopf && !Quelle.Zeile().empty() ? 1 : 0);
+    if (!MitKopf || Quelle.Abschnittsart() != Abschnitt::Schueler)
         return;
     Quelle.ZerlegenUndZaehlen();
     Saetze.TitelLesen(Quelle.Felder());

@@ -167,7 +167,7 @@ void frmMain::Beenden() {
 void frmMain::OptionenAendern() {
     OptionenZeigen(this);
     const int Nummer = tabAnsicht->currentIndex();
-    if (Nummer == Reiter::P || Nummer == Reiter::N2)
+    if (Nummer == Reiter::P || Nummer == Reiter::N1 || Nummer == Reiter::N2)
         AnsichtAktualisieren();
 }
 

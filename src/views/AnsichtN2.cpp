@@ -40,10 +40,7 @@ void AnsichtN2::KombinationenVerbinden() {
             "Zur Aufnahme einer neuen Klasse hier die Klassenbezeichnung eingeben und Return drücken!"));
     });
     connect(Form->cbN2Name, &Kombinationsfeld::Klick, this, &AnsichtN2::NameGewaehlt);
-    connect(Form->cbN2Name, &Kombinationsfeld::Anlegen, this, [this](const QString& Name) {
-        SchuelerAnlegen(window(), *Form->cbN2Name, Form->cbN2Klasse->currentText(), Name,
-                        [this] { NamenlisteFuellen(); });
-    });
+    connect(Form->cbN2Name, &Kombinationsfeld::Anlegen, this, &AnsichtN2::NameGetippt);
     connect(Form->cbN2Name, &Kombinationsfeld::Betreten, this, [this] {
         Q_EMIT HinweisGewuenscht(QStringLiteral("Zur Aufnahme eines neuen Schülers hier den Namen (Nachname "
                                                 "Vorname) eingeben und Return drücken!"));
@@ -97,8 +94,10 @@ void AnsichtN2::KlasseGewaehlt() {
 void AnsichtN2::NamenlisteFuellen() {
     Kombinationsfeld& Namen = *Form->cbN2Name;
     Namen.Leeren();
-    if (Form->cbN2Klasse->ListIndex() < 0)
+    if (Form->cbN2Klasse->ListIndex() < 0) {
+        NotenlisteSchuelerFuellen();
         return;
+    }
     const QString Klasse = Form->cbN2Klasse->currentText();
     for (int i = 0; i < Datenbank.AnzSchueler; ++i)
         if (const Schueler& Einer = Datenbank.Schueler[i];
@@ -120,6 +119,19 @@ void AnsichtN2::NameGewaehlt() {
     NotenlisteSchuelerFuellen();
     AktSchuelerID = Form->cbN2Name->AktDatum();
     Q_EMIT PassbildGewuenscht();
+}
+
+/// A text that is no class may stand in the combo of classes: the names are still those of the class chosen
+/// before, which is then chosen again.
+void AnsichtN2::NameGetippt(const QString& Name) {
+    const bool KlasseSteht = Form->cbN2Klasse->ListIndex() >= 0;
+    const QString Klasse = KlasseSteht ? Form->cbN2Klasse->currentText() : AktKlasse;
+    SchuelerAnlegen(window(), *Form->cbN2Name, Klasse, Name, [this, KlasseSteht] {
+        if (KlasseSteht)
+            NamenlisteFuellen();
+        else
+            KlasseN2Fuellen();
+    });
 }
 
 void AnsichtN2::NotenlisteSchuelerFuellen() {

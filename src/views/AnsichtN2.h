@@ -47,6 +47,7 @@ class AnsichtN2 : public Ansicht, private Listenart {
     void KlasseGewaehlt();
     void NamenlisteFuellen();
     void NameGewaehlt();
+    void NameGetippt(const QString& Name);
     void NotenlisteSchuelerFuellen();
     void NeueKlasse();
     void KlasseLoeschen();

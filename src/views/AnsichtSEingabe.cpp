@@ -137,8 +137,13 @@ void AnsichtS::SchuelerAusEingabezeile(const QString& Name) {
     std::vector<Teilnahmezeile> Faecher;
     for (int j = 1; j <= AnzTeilnahmeSpalten; ++j)
         Faecher.push_back({tblSSchueler->ColData(j), QString(), QStringLiteral("ja")});
-    SchuelerErstellen(Name, cbSKlasse->currentText(), Faecher);
-    SchuelerlisteFuellen();
+    // A text that is no class may stand in the combo: the list is still that of the class chosen before.
+    const bool KlasseSteht = cbSKlasse->ListIndex() >= 0;
+    SchuelerErstellen(Name, KlasseSteht ? cbSKlasse->currentText() : AktKlasse, Faecher);
+    if (KlasseSteht)
+        SchuelerlisteFuellen();
+    else
+        KlassenlisteFuellen();
     tblSSchueler->setRow(tblSSchueler->Rows() - 1);
 }
 

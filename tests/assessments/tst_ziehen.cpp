@@ -81,6 +81,13 @@ class ZiehenTest : public QObject {
         QCOMPARE(F->Text().textCursor().position(), 18);
     }
 
+    void RightOfAWrappedLineTheCaretStaysInIt() {
+        F->Text().setPlainText(QStringLiteral("viele Worte ").repeated(20));
+        const QTextLine Erste = F->Text().document()->firstBlock().layout()->lineAt(0);
+        F->Darueber(Kasten(), Ziehart::Formulierung, QPoint(Kasten().width() - 3, 6));
+        QCOMPARE(F->Text().textCursor().position(), Erste.textLength() - 1); // in front of its blank
+    }
+
     void BelowTheTextThePhraseGoesToItsEnd() {
         F->Text().setPlainText(QStringLiteral("erste Zeile"));
         F->Ablegen(Kasten(), Ziehart::Formulierung, QPoint(2, Kasten().height() + 100));

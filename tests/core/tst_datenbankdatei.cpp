@@ -30,6 +30,8 @@ class Datenbankdatei : public QObject {
     void Schueler_ohne_Bearbeitung_schreibt_leere_Spalten();
     void Beurteilung_kommt_mit_jeder_Zeile_zurueck_data();
     void Beurteilung_kommt_mit_jeder_Zeile_zurueck();
+    void Zeile_einer_Beurteilung_die_als_Marke_gilt_wird_geschrieben_und_gemeldet_data();
+    void Zeile_einer_Beurteilung_die_als_Marke_gilt_wird_geschrieben_und_gemeldet();
     void Alle_Bytes_der_Codeseite_kommen_zurueck();
     void Parameter_folgen_der_Sprache_des_Systems();
     void Volle_Felder_5001_Schueler_kommen_zurueck();
@@ -127,6 +129,40 @@ void Datenbankdatei::Beurteilung_kommt_mit_jeder_Zeile_zurueck() {
     QVERIFY(Testwelt::DateiInhalt(Pfad).contains("\r\n#10000_12#\r\n" + Zeilen + "[Parameter]"));
     QVERIFY(LadeDatenbank(Pfad));
     QCOMPARE(Datenbank.Schueler[0].Beurteilung[11], Text);
+}
+
+void Datenbankdatei::Zeile_einer_Beurteilung_die_als_Marke_gilt_wird_geschrieben_und_gemeldet_data() {
+    QTest::addColumn<QString>("Zeile");
+    QTest::addColumn<bool>("Gemeldet");
+    const auto Fall = [](const char* Zeile, bool Gemeldet) {
+        QTest::newRow(Zeile) << QString::fromLatin1(Zeile) << Gemeldet;
+    };
+    Fall("#wichtig#", true);
+    Fall("#10000_2#", true);
+    Fall("#", true);
+    Fall("[siehe oben]", true);
+    Fall("[]", true);
+    Fall("[", false);
+    Fall("#1 und #2", false);
+    Fall(" #wichtig#", false);
+    Fall("siehe [oben]", false);
+}
+
+void Datenbankdatei::Zeile_einer_Beurteilung_die_als_Marke_gilt_wird_geschrieben_und_gemeldet() {
+    QFETCH(QString, Zeile);
+    QFETCH(bool, Gemeldet);
+    TestbuchLaden(QStringLiteral("Schueler 10000 7a Bauer Anna"));
+    Datenbank.Schueler[0].Beurteilung[3] = QStringLiteral("a\r\n") + Zeile + QStringLiteral("\r\nb");
+    if (Gemeldet)
+        Welt.Boxen.ErwarteMeldung(
+            QStringLiteral("Die Datei ist gespeichert, aber die Beurteilung von Bauer Anna (7a) enthält die "
+                           "Zeile \"%1\".")
+                .arg(Zeile));
+    const QString Pfad = Welt.Pfad(QStringLiteral("buch.txt"));
+    SpeichernDatenbank3(Pfad);
+    QVERIFY(Testwelt::DateiInhalt(Pfad).contains("\r\na\r\n" + Zeile.toLatin1() + "\r\nb\r\n"));
+    QVERIFY(Welt.Boxen.AllesGefragt());
+    SpeichernDatenbank2(Pfad); // has no assessments: nothing to tell
 }
 
 void Datenbankdatei::Alle_Bytes_der_Codeseite_kommen_zurueck() {

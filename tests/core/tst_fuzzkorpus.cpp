@@ -19,6 +19,8 @@ class Fuzzkorpus : public QObject {
     void Fremdschueler() { Pruefen(FremdschuelerRundreise); }
     void Parameter_data() { Dateien(QStringLiteral("parameter")); }
     void Parameter() { Pruefen(ParameterRundreise); }
+    void Formulierungen_data() { Dateien(QStringLiteral("formulierungen")); }
+    void Formulierungen() { Pruefen(FormulierungenRundreise); }
 
   private:
     static void Dateien(const QString& Ziel) {

@@ -43,6 +43,7 @@ class Laden : public QObject {
     void Warnung_hat_ihren_genauen_Wortlaut();
     void Kopf_der_Schueler_mit_falscher_Feldzahl_warnt_als_Zeile_0();
     void Parameterzeile_mit_9_Feldern_behaelt_Feld_10_der_Zeile_davor();
+    void Parameterzeile_mit_9_Feldern_und_leerem_Feld_10_davor_nimmt_die_Vorgaben();
     void Beurteilung_ueber_mehrere_Zeilen_und_mit_leerer_am_Ende();
     void Fuehrende_Leerzeilen_einer_Beurteilung_entfallen();
     void Zweite_Marke_desselben_Platzes_haengt_an();
@@ -201,6 +202,18 @@ void Laden::Parameterzeile_mit_9_Feldern_behaelt_Feld_10_der_Zeile_davor() {
     QVERIFY(
         LadeDatenbank(Datei(Ersetzt(MitNote5, QStringLiteral("\t1\t1\t0,5\n"), QStringLiteral("\t1\t1\n")))));
     QCOMPARE(Datenbank.GewichtungM, 3.0F);
+}
+
+/// An empty text is no number: the rows stay, the parameters become the defaults.
+void Laden::Parameterzeile_mit_9_Feldern_und_leerem_Feld_10_davor_nimmt_die_Vorgaben() {
+    const QString Pfad =
+        Datei(Ersetzt(Kleinbuch(), QStringLiteral("\t1\t1\t0,5\n"), QStringLiteral("\t1\t1\n")));
+    Welt.Boxen.ErwarteMeldung(Warnungsanfang + QStringLiteral("1.ten Zeile der Sektion [Parameter]"));
+    Welt.Boxen.ErwarteMeldung(Schadensanfang);
+    QVERIFY(!LadeDatenbank(Pfad));
+    QCOMPARE(Datenbank.AnzNoten, 1);
+    QCOMPARE(Datenbank.GewichtungM, 0.5F);
+    QCOMPARE(AutoDatei(), Pfad);
 }
 
 void Laden::Beurteilung_ueber_mehrere_Zeilen_und_mit_leerer_am_Ende() {
@@ -363,6 +376,8 @@ class LadenScheitert : public QObject {
     void Null_Bytes_stoeren_nicht();
     void UTF8_ohne_Kennung_ueberschreibt_das_Original_nicht_ohne_Kopie();
     void Ueberzaehlige_Felder_werden_vor_dem_Speichern_bewahrt();
+    void Beurteilungszeilen_die_als_Abschnitt_gelten_werden_vor_dem_Speichern_bewahrt();
+    void Was_hinter_einem_Fehler_in_Parameter_stand_wird_vor_dem_Speichern_bewahrt();
     void Bericht_steht_im_Fehlerprotokoll();
     void Nicht_schreibbares_Protokoll_aendert_am_Ergebnis_nichts();
 
@@ -598,6 +613,33 @@ void LadenScheitert::Ueberzaehlige_Felder_werden_vor_dem_Speichern_bewahrt() {
     QVERIFY(LadeDatenbank(Pfad));
     Welt.Boxen.ErwarteMeldung(QStringLiteral("Beim Laden dieser Datei"));
     SpeichernDatenbank3(Pfad);
+}
+
+/// The line in brackets is a marker and the one behind it its header: both are gone, and no row follows.
+void LadenScheitert::Beurteilungszeilen_die_als_Abschnitt_gelten_werden_vor_dem_Speichern_bewahrt() {
+    const QString Pfad = Datei(Ersetzt(Kleinbuch(), QStringLiteral("[Parameter]\n"),
+                                       QStringLiteral("[siehe oben]\nund unten\n[Parameter]\n")));
+    QVERIFY(LadeDatenbank(Pfad));
+    Welt.Boxen.ErwarteMeldung(QStringLiteral("Beim Laden dieser Datei"));
+    SpeichernDatenbank3(Pfad);
+    QCOMPARE(Testwelt::DateiInhalt(Pfad), Kleinbuch());
+}
+
+/// The file stays the current one, so the next save goes over it.
+void LadenScheitert::Was_hinter_einem_Fehler_in_Parameter_stand_wird_vor_dem_Speichern_bewahrt() {
+    const QByteArray Bytes = Ersetzt(Kleinbuch(), QStringLiteral("Sie beteiligt"),
+                                     QStringLiteral("[Parameter]\nKopf\nSie beteiligt"));
+    const QString Pfad = Datei(Bytes);
+    Welt.Boxen.ErwarteMeldung(Warnungsanfang + QStringLiteral("1.ten Zeile der Sektion [Parameter]"));
+    Welt.Boxen.ErwarteMeldung(Schadensanfang);
+    QVERIFY(!LadeDatenbank(Pfad));
+    QCOMPARE(AutoDatei(), Pfad);
+    Welt.Boxen.ErwarteMeldung(QStringLiteral("Beim Laden dieser Datei"));
+    SpeichernDatenbank3(Pfad);
+    const QDir Zustand(Welt.Pfad(QStringLiteral("zustand")));
+    const QStringList Kopien = Zustand.entryList({QStringLiteral("Original-*")});
+    QCOMPARE(Kopien.size(), 1);
+    QCOMPARE(Testwelt::DateiInhalt(Zustand.filePath(Kopien.first())), Bytes);
 }
 
 void LadenScheitert::Bericht_steht_im_Fehlerprotokoll() {

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -254,6 +255,22 @@ class TestAnsichtP : public QObject {
         QCOMPARE(Feld(u"txtPNotenschnitt"_s)->text(), u"0,00"_s);
     }
 
+    void ProbeOhnePunkteHatKeineNotenUndLeereDiagramme() {
+        for (const int ID : {SchuelerA, SchuelerB})
+            Zeile(ID).P[1].clear();
+        Datenbank.ZSchueler[0].Punkte.clear();
+        Fuellen();
+        QCOMPARE(Zeilen(), (QStringList{u"adler Carl||"_s, u"Berger Anna Maria||"_s, u"Cramer Bodo||"_s,
+                                        u"Gast Emil||"_s}));
+        QCOMPARE(Zeile(SchuelerA).N[1], QString());
+        QCOMPARE(Datenbank.ZSchueler[0].Note, QString());
+        QCOMPARE(Feld(u"txtPNotenschnitt"_s)->text(), u"0,00"_s);
+        for (const qint16 Anzahl : NotenAnzahl)
+            QCOMPARE(Anzahl, qint16(0));
+        for (const qint16 Anzahl : PunkteVerteilung)
+            QCOMPARE(Anzahl, qint16(0));
+    }
+
     void ZweiAuswertungenLassenDatenGeaendert() {
         Ansicht->ProbeAuswerten();
         QCOMPARE(DatenGeaendert, false);
@@ -372,6 +389,20 @@ class TestAnsichtP : public QObject {
         QVERIFY(Eingabe()->isHidden());
         Anklicken(3, 1);
         QVERIFY(Eingabe()->isVisible());
+    }
+
+    void OhneGitterereignisseOeffnetSichKeineZelle() {
+        const QScopedValueRollback<bool> Ruhe(GridEreignisseAktiv, false);
+        Anklicken(2, 1);
+        QVERIFY(Eingabe()->isHidden());
+        Tabelle()->setRow(Tabelle()->Rows() - 1); // nor the dialog for a new student
+    }
+
+    void EingabeTraegtDieFarbeIhrerZelle() {
+        Anklicken(ZeileVon(u"Gast Emil"_s), 0);
+        QCOMPARE(Eingabe()->palette().color(QPalette::Text), QColor(0, 0, 255));
+        Anklicken(ZeileVon(u"adler Carl"_s), 2);
+        QCOMPARE(Eingabe()->palette().color(QPalette::Text), QColor(0, 0x88, 0));
     }
 
     void KopfzeileIstKeineEingabe() {
@@ -829,6 +860,41 @@ class TestAnsichtP : public QObject {
         Klicken(Name);
         QCOMPARE(Welt.Boxen.Gezeigt.last().Titel, u"Hinweis:"_s);
         QCOMPARE(Grenzen(), u"36 31 25 18 9"_s);
+        QCOMPARE(DatenGeaendert, true);
+    }
+
+    void NurDieGaussVerteilungBewertetOhneGesamtpunktzahlNicht_data() {
+        QTest::addColumn<QString>("Name");
+        QTest::addColumn<bool>("Bewertet");
+        QTest::newRow("own") << u"btEigeneVerteilung_0"_s << true;
+        QTest::newRow("table") << u"btPBLLV"_s << true;
+        QTest::newRow("gauss") << u"btGaußverteilung_0"_s << false;
+    }
+    void NurDieGaussVerteilungBewertetOhneGesamtpunktzahlNicht() {
+        QFETCH(QString, Name);
+        Datenbank.Faecher[0].Proben[1].Gesamtpunktzahl.clear();
+        Fuellen();
+        Welt.Boxen.ErwarteMeldung({});
+        QSignalSpy Hinweise(Ansicht.get(), &Ansicht::HinweisGewuenscht);
+        Klicken(Name);
+        QTEST(Hinweise.contains(QVariantList{MeldungUnplausibel}), "Bewertet");
+    }
+
+    void AutomatikStartetKeinenZaehler() {
+        EigeneVerteilung[0].fill(50.0F);
+        BLLVVerteilung[40].fill(9.0F);
+        for (const QString& Name : {u"btEigeneVerteilung_0"_s, u"btPBLLV"_s, u"btGaußverteilung_0"_s}) {
+            Klicken(Name);
+            for (const qint16 Zaehler : EingabeZaehler)
+                QVERIFY2(Zaehler <= 0, qPrintable(Name));
+        }
+        BLLVVerteilung[40] = {};
+    }
+
+    void BesserMerktDieAenderungAuchWennNichtsRueckt() {
+        Datenbank.Faecher[0].Proben[1].NGrenze[5].clear();
+        Fuellen();
+        Klicken(u"btPSchlechter"_s);
         QCOMPARE(DatenGeaendert, true);
     }
 

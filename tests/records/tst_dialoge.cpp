@@ -11,6 +11,7 @@
 #include "records/Satzdialoge.h"
 
 #include <QAccessible>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -86,6 +87,18 @@ class DialogeTest : public QObject {
             QCOMPARE(Teil<QLabel>(Dialog, QStringLiteral("lbEinleitung"))->text(),
                      QStringLiteral("Sie wollen ein neues Fach einrichten. Wenn die Angaben korrekt sind, "
                                     "klicken Sie bitte auf 'Weiter>' !"));
+            QCOMPARE(Teil<QGroupBox>(Dialog, QStringLiteral("fmZusammengelegt"))->title(),
+                     QStringLiteral("Hinweis für zusammengelegte Klassen:"));
+            QCOMPARE(Teil<QLabel>(Dialog, QStringLiteral("lbZusammengelegt"))->text(),
+                     QStringLiteral("Wenn Sie ein Fach in zusammengelegten Klassen unterrichten, geben Sie "
+                                    "dazu als Klasse z.B. \"3bc\" ein!"));
+            QCOMPARE(Teil<QGroupBox>(Dialog, QStringLiteral("fmGleichnamig"))->title(),
+                     QStringLiteral("Hinweis für gleichnamige Klassen an mehreren Schulen:"));
+            QCOMPARE(Teil<QLabel>(Dialog, QStringLiteral("lbGleichnamig"))->text(),
+                     QStringLiteral("Wenn Sie an mehreren Schulen unterrichten und dort gleichnamige Klassen "
+                                    "haben, setzen Sie zur Unterscheidung einen Buchstaben (z.B. den "
+                                    "Anfangsbuchstaben der Schule) vor die Klassenbezeichnung, also z.B. "
+                                    "\"A1a\" oder \"B1a\"."));
             QCOMPARE(Teil<Textfeld>(Dialog, QStringLiteral("txtKlasse"))->toolTip(),
                      QStringLiteral("z.B. \"1a\", \"1ab\", \"A1a\", \"A1ab\""));
             QCOMPARE(Teil<Textfeld>(Dialog, QStringLiteral("txtFach"))->toolTip(),

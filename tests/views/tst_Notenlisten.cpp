@@ -9,6 +9,7 @@
 #include "controls/Kombinationsfeld.h"
 #include "core/Definitionen.h"
 #include "core/Eingabezaehler.h"
+#include "core/Einstellungen.h"
 #include "core/FktSpeziell.h"
 #include "grading/Gesamtnoten.h"
 #include "views/AnsichtN1.h"
@@ -165,6 +166,7 @@ class AnsichtN1Test : public Notenansicht<AnsichtN1> {
     void escapeDropsWhatWasTyped();
     void averagesCannotBeTyped();
     void renamedStudentIsRenamedInTheRecord();
+    void renamedStudentTakesThePhotoAlong();
     void commitOnLeavingTheBox();
     void pastedTabsBecomeBlanks();
 
@@ -416,6 +418,18 @@ void AnsichtN1Test::renamedStudentIsRenamedInTheRecord() {
     QCOMPARE(Datenbank.Schueler[3].Name, QStringLiteral("Bauer Anne"));
     QCOMPARE(Zelle(2, 0), QStringLiteral("Bauer Anne"));
     QVERIFY(DatenGeaendert);
+}
+
+void AnsichtN1Test::renamedStudentTakesThePhotoAlong() {
+    EinstellungSchreiben(QStringLiteral("AutoDatei"), Welt.Pfad(QStringLiteral("noten.txt")));
+    QVERIFY(QDir(Welt.Ordner()).mkpath(QStringLiteral("Passbilder/2003-04/3b")));
+    Welt.DateiAnlegen(QStringLiteral("Passbilder/2003-04/3b/Bauer Anna.bmp"), "BM");
+    MatheZeigen(*this);
+    Klicken(2, 0);
+    Tippen("Bauer Anne");
+    Taste(Qt::Key_Return);
+    QVERIFY(QFile::exists(Welt.Pfad(QStringLiteral("Passbilder/2003-04/3b/Bauer Anne.bmp"))));
+    QVERIFY(!QFile::exists(Welt.Pfad(QStringLiteral("Passbilder/2003-04/3b/Bauer Anna.bmp"))));
 }
 
 void AnsichtN1Test::commitOnLeavingTheBox() {
@@ -745,12 +759,16 @@ class AnsichtN2Test : public Notenansicht<AnsichtN2> {
     void newSubjectButton();
     void typedNameMakesAStudent();
     void typedClassMakesAClass();
+    void typedNameBelongsToTheShownClass();
+    void withoutAClassTheListIsEmptied();
     void newStudentButtonGoesToTheName();
+    void newStudentButtonSelectsByTheLengthOfTheOtherClass();
     void newClassButtonSelectsTheText();
     void deleteButtons();
     void emptyBookDisables();
     void classWithoutStudents();
     void entryRowHint();
+    void comboHints();
 };
 
 namespace {
@@ -941,10 +959,45 @@ void AnsichtN2Test::typedClassMakesAClass() {
     QVERIFY(!Tabelle->isEnabled());
 }
 
+/// "abc" is no class and stays in the combo, while the students of 3b are still listed.
+void AnsichtN2Test::typedNameBelongsToTheShownClass() {
+    TomZeigen(*this);
+    Teil<Kombinationsfeld>("cbN2Klasse")->setEditText(QStringLiteral("abc"));
+    Schritte->Erwarte(QStringLiteral("dlgNeuerSchueler2"), [](QDialog& Dialog) { Dialog.close(); });
+    auto* Namensfeld = Teil<Kombinationsfeld>("cbN2Name");
+    Namensfeld->setFocus();
+    Namensfeld->lineEdit()->selectAll();
+    QTest::keyClicks(Namensfeld, QStringLiteral("Neu Nina"));
+    Taste(Qt::Key_Return);
+    QCOMPARE(Datenbank.Schueler[4].Klasse, QStringLiteral("3b"));
+    QCOMPARE(Teil<Kombinationsfeld>("cbN2Klasse")->currentText(), QStringLiteral("3b"));
+    QCOMPARE(Namensfeld->currentText(), QStringLiteral("Neu Nina"));
+    QCOMPARE(Namensfeld->AktDatum(), Datenbank.Schueler[4].ID);
+}
+
+/// Rows of a student who is no longer chosen would take no grade.
+void AnsichtN2Test::withoutAClassTheListIsEmptied() {
+    TomZeigen(*this);
+    Teil<Kombinationsfeld>("cbN2Klasse")->setEditText(QStringLiteral("abc"));
+    Welt.Boxen.ErwarteFrage(QStringLiteral("Soll der Schüler wirklich gelöscht werden?"), Antwort::Ja);
+    Druecken("btN2SchuelerLoeschen");
+    QCOMPARE(Namen(), QStringLiteral("Fach,,"));
+    QVERIFY(!Tabelle->isEnabled());
+}
+
 void AnsichtN2Test::newStudentButtonGoesToTheName() {
     TomZeigen(*this);
     Druecken("btN2NeuerSchueler");
     QVERIFY(Teil<Kombinationsfeld>("cbN2Name")->hasFocus());
+}
+
+void AnsichtN2Test::newStudentButtonSelectsByTheLengthOfTheOtherClass() {
+    TomZeigen(*this);
+    auto* KlasseS = new QComboBox(Fenster.get());
+    KlasseS->setObjectName(QStringLiteral("cbSKlasse"));
+    KlasseS->addItem(QStringLiteral("10a"));
+    Druecken("btN2NeuerSchueler");
+    QCOMPARE(Teil<Kombinationsfeld>("cbN2Name")->lineEdit()->selectedText(), QStringLiteral("Zec"));
 }
 
 void AnsichtN2Test::newClassButtonSelectsTheText() {
@@ -990,6 +1043,16 @@ void AnsichtN2Test::entryRowHint() {
     TomZeigen(*this);
     Klicken(5, 0);
     QCOMPARE(Hinweis, HinweisFach);
+}
+
+void AnsichtN2Test::comboHints() {
+    TomZeigen(*this);
+    Teil<Kombinationsfeld>("cbN2Klasse")->setFocus();
+    QCOMPARE(Hinweis, QStringLiteral("Zur Aufnahme einer neuen Klasse hier die Klassenbezeichnung eingeben "
+                                     "und Return drücken!"));
+    Teil<Kombinationsfeld>("cbN2Name")->setFocus();
+    QCOMPARE(Hinweis, QStringLiteral("Zur Aufnahme eines neuen Schülers hier den Namen (Nachname Vorname) "
+                                     "eingeben und Return drücken!"));
 }
 
 TESTKLASSE(AnsichtN1Test)

@@ -674,6 +674,20 @@ class AnsichtSTest : public QObject {
         QCOMPARE(Datenbank.AnzKlassen, qint16{2});
     }
 
+    void EinSchuelerGehoertZurGezeigtenKlasseAuchWennEinAndererTextInDerKlassenlisteSteht() {
+        Zeigen(Buch);
+        Druecken("btSNeueKlasse");
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("abc"));
+        Klicken(5, 0);
+        Tippen(QStringLiteral("Zander Nora"));
+        Taste(Qt::Key_Return);
+        QCOMPARE(Datenbank.Schueler[4].Name, QStringLiteral("Zander Nora"));
+        QCOMPARE(Datenbank.Schueler[4].Klasse, QStringLiteral("3b"));
+        QCOMPARE(Klassen->currentText(), QStringLiteral("3b"));
+        QCOMPARE(Spalte(0), Worte("adam Eva|Bauer Anna|Conz Tom|Zander Nora"));
+        QCOMPARE(Zelle(), (QPair{6, 0}));
+    }
+
     void DerAssistentFuelltDieListeNeu() {
         Zeigen(Buch);
         Schritte->Erwarte(QStringLiteral("dlgNeuesFach1"), [](QDialog& Dialog) {
