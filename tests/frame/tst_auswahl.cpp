@@ -7,6 +7,7 @@
 #include "core/Definitionen.h"
 #include "frame/Ansichten.h"
 
+#include <QLabel>
 #include <QtTest>
 
 namespace {
@@ -110,6 +111,32 @@ class TestAuswahl : public QObject {
         ZumReiter(Reiter::N1);
         QCOMPARE(AktFachID, 50003);
         QCOMPARE(Fenster.Kind<Kombinationsfeld>("cbN1KlasseFach")->AktDatum(), 50003);
+    }
+
+    void JedeAuswahllisteGibtIhrenHinweis_data() {
+        const auto Klasse = QStringLiteral(
+            "Zur Aufnahme einer neuen Klasse hier die Klassenbezeichnung eingeben und Return drücken!");
+        const auto Fach = QStringLiteral("Zur Aufnahme eines neuen Fachs hier die Klasse und den Fachnamen "
+                                         "eingeben und Return drücken!");
+        const auto Name = QStringLiteral("Zur Aufnahme eines neuen Schülers hier den Namen (Nachname "
+                                         "Vorname) eingeben und Return drücken!");
+        QTest::addColumn<int>("Nummer");
+        QTest::addColumn<QString>("Hinweis");
+        QTest::newRow("cbSKlasse") << 0 << Klasse;
+        QTest::newRow("cbPKlasseFach") << 1 << Fach;
+        QTest::newRow("cbN1KlasseFach") << 2 << Fach;
+        QTest::newRow("cbN2Klasse") << 3 << Klasse;
+        QTest::newRow("cbN2Name") << 3 << Name;
+        QTest::newRow("cbBKlasse") << 4 << Klasse;
+    }
+    void JedeAuswahllisteGibtIhrenHinweis() {
+        QFETCH(int, Nummer);
+        QFETCH(QString, Hinweis);
+        ZumReiter(Nummer);
+        const auto* Statusfeld = Fenster.Kind<QLabel>("sbStatusBar_1");
+        QCOMPARE(Statusfeld->text(), QString());
+        Fenster.Kind<Kombinationsfeld>(QTest::currentDataTag())->setFocus();
+        QCOMPARE(Statusfeld->text(), Hinweis);
     }
 
     void EineNummerDerProbeAusserhalbWirdNull() {
