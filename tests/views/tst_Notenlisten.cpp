@@ -184,6 +184,9 @@ class AnsichtN1Test : public Notenansicht<AnsichtN1> {
     void takeoverAsksFirst();
 
     void newStudentThroughTheEntryRow();
+    void leavingTheEntryRowTakesTheStudentOnce_data();
+    void leavingTheEntryRowTakesTheStudentOnce();
+    void threeSecondsOnTheEntryRowAskForTheSubjects();
     void mergedSubjectAsksForTheClass();
     void mergedSubjectCancelledGoesOneRowUp();
     void newStudentButton();
@@ -611,6 +614,46 @@ void AnsichtN1Test::newStudentThroughTheEntryRow() {
     QCOMPARE(Feld->text(), QString());
 }
 
+void AnsichtN1Test::leavingTheEntryRowTakesTheStudentOnce_data() {
+    QTest::addColumn<bool>("InDieListe");
+    QTest::newRow("to another cell") << true;
+    QTest::newRow("to the combo") << false;
+}
+
+void AnsichtN1Test::leavingTheEntryRowTakesTheStudentOnce() {
+    QFETCH(const bool, InDieListe);
+    MatheZeigen(*this);
+    Klicken(4, 0);
+    Tippen("Neu Nina");
+    Schritte->Erwarte(QStringLiteral("dlgNeuerSchueler2"), [](QDialog& Dialog) { Dialog.close(); });
+    if (InDieListe)
+        Klicken(2, 21);
+    else
+        QTest::mouseClick(Teil<Kombinationsfeld>("cbN1KlasseFach")->lineEdit(), Qt::LeftButton);
+    QCOMPARE(Datenbank.AnzSchueler, qint16(5));
+    QCOMPARE(Namen(), QStringLiteral("Schüler,,Bauer Anna,Neu Nina,Zech Tom,"));
+    if (InDieListe)
+        QCOMPARE(Ort(), QPoint(2, 21));
+    Druecken("btN1NeuerSchueler");
+    QCOMPARE(Datenbank.AnzSchueler, qint16(5));
+    QCOMPARE(Feld->text(), QString());
+}
+
+void AnsichtN1Test::threeSecondsOnTheEntryRowAskForTheSubjects() {
+    MatheZeigen(*this);
+    Klicken(4, 0);
+    Tippen("Neu Nina");
+    Schritte->Erwarte(QStringLiteral("dlgNeuerSchueler2"), [](QDialog& Dialog) {
+        for (int i = 0; i < 8; ++i)
+            EingabezaehlerTick(); // asks only once
+        Dialog.close();
+    });
+    for (int i = 0; i < 8; ++i)
+        EingabezaehlerTick();
+    QCOMPARE(Datenbank.AnzSchueler, qint16(5));
+    QCOMPARE(Datenbank.Schueler[4].Name, QStringLiteral("Neu Nina"));
+}
+
 void AnsichtN1Test::mergedSubjectAsksForTheClass() {
     AktFachID = 50001;
     N1Zeigen(*this);
@@ -756,6 +799,7 @@ class AnsichtN2Test : public Notenansicht<AnsichtN2> {
     void studentWithoutSubjectsShowsTheEntryRow();
     void takeoverGoesOverAllSubjects();
     void newSubjectThroughTheEntryRow();
+    void cancelledNewSubjectAsksNoSecondTimeOnEsc();
     void newSubjectButton();
     void typedNameMakesAStudent();
     void typedClassMakesAClass();
@@ -921,6 +965,20 @@ void AnsichtN2Test::newSubjectThroughTheEntryRow() {
     Taste(Qt::Key_Return);
     QCOMPARE(Vorgaben, QStringList({QStringLiteral("3b"), QStringLiteral("Kunst")}));
     QCOMPARE(Namen(), QStringLiteral("Fach,,Kunst,Deutsch,Religion,Mathe,"));
+}
+
+void AnsichtN2Test::cancelledNewSubjectAsksNoSecondTimeOnEsc() {
+    TomZeigen(*this);
+    Klicken(5, 0);
+    Tippen("Kunst");
+    Schritte->Erwarte(QStringLiteral("dlgNeuesFach1"), [](QDialog& Dialog) { Dialog.reject(); });
+    Taste(Qt::Key_Return);
+    QCOMPARE(Ort(), QPoint(5, 0));
+    QCOMPARE(Feld->text(), QStringLiteral("Kunst"));
+    QTest::keyClick(Feld, Qt::Key_Escape);
+    Klicken(3, 4);
+    QCOMPARE(Ort(), QPoint(3, 4));
+    QCOMPARE(Datenbank.AnzFaecher, qint16(3));
 }
 
 void AnsichtN2Test::newSubjectButton() {
