@@ -99,7 +99,8 @@ Treiber::Stand Treiber::Schritt(const Befehl& Einer) {
 /// A box that was answered is closed, but its caller has not yet gone on: what it does with the answer is
 /// still to come.
 bool Treiber::FensterGehtNoch() const {
-    return Beantwortetes && !Beantwortetes->isVisible() && thread()->loopLevel() >= Stufe &&
+    const QWidget* Fenster = Beantwortetes; // held once: a QPointer could be empty at the second look
+    return Fenster && !Fenster->isVisible() && thread()->loopLevel() >= Stufe &&
            !QApplication::activeModalWidget();
 }
 
