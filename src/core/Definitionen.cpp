@@ -11,7 +11,7 @@ union Dauerhaft {
     T Wert;
     constexpr Dauerhaft()
         : Wert() {}
-    constexpr ~Dauerhaft() {}
+    constexpr ~Dauerhaft() {} // NOLINT(modernize-use-equals-default): a default one would be deleted
 };
 
 constinit Dauerhaft<Notendatenbank> DatenbankSpeicher;
