@@ -20,6 +20,9 @@ QString Tr(const char* Text) {
     return QCoreApplication::translate("Datenbankdatei", Text);
 }
 
+/// The marker of an assessment has room for five digits.
+constexpr qint32 GroessteFuenfstelligeID = 99999;
+
 /// What a file gave: its bytes, all or those before a read error, or nothing if it could not be opened.
 struct Dateiinhalt {
     std::optional<QByteArray> Bytes;
@@ -108,20 +111,33 @@ QString Markenzeile(const QString& Text) {
     return {};
 }
 
-/// The format has no way to write such a line as text. It is written as it stands, but not in silence: the
+/// Why loading would not find this assessment again; empty if it will.
+QString Beurteilungsfehler(const Schueler& Einer, const QString& Text) {
+    if (const QString Zeile = Markenzeile(Text); !Zeile.isEmpty())
+        return Tr("enthält die Zeile \"%1\". Eine Zeile, die mit # beginnt und endet oder in eckigen "
+                  "Klammern steht, hält das "
+                  "Programm beim nächsten Laden nicht für Text; die Datei lässt sich dann womöglich nicht "
+                  "mehr öffnen. Bitte "
+                  "ändern Sie die Zeile und speichern Sie noch einmal!")
+            .arg(Zeile.left(80));
+    if (Einer.ID > GroessteFuenfstelligeID && !Text.isEmpty())
+        return Tr("lässt sich nicht wieder laden, weil die Nummer %1 des Schülers mehr als fünf Stellen hat. "
+                  "Bitte heben Sie den "
+                  "Text anderswo auf, löschen Sie ihn hier und speichern Sie noch einmal!")
+            .arg(Einer.ID);
+    return {};
+}
+
+/// The format has no way to write such an assessment. It is written as it stands, but not in silence: the
 /// next load would fail at it, or lose what stands behind it.
-void MarkenzeilenMelden() {
+void BeurteilungsfehlerMelden() {
     for (int s = 0; s < Datenbank.AnzSchueler; ++s)
         for (const QString& Text : Datenbank.Schueler[s].Beurteilung)
-            if (const QString Zeile = Markenzeile(Text); !Zeile.isEmpty()) {
-                MeldungZeigen(
-                    Tr("Die Datei ist gespeichert, aber die Beurteilung von %1 (%2) enthält die Zeile "
-                       "\"%3\". "
-                       "Eine Zeile, die mit # beginnt und endet oder in eckigen Klammern steht, hält das "
-                       "Programm beim nächsten Laden nicht für Text; die Datei lässt sich dann womöglich "
-                       "nicht mehr öffnen. Bitte ändern Sie die Zeile und speichern Sie noch einmal!")
-                        .arg(Datenbank.Schueler[s].Name, Datenbank.Schueler[s].Klasse, Zeile.left(80)),
-                    {}, Symbol::Warnung);
+            if (const QString Fehler = Beurteilungsfehler(Datenbank.Schueler[s], Text); !Fehler.isEmpty()) {
+                MeldungZeigen(Tr("Die Datei ist gespeichert, aber die Beurteilung von %1 (%2) ")
+                                      .arg(Datenbank.Schueler[s].Name, Datenbank.Schueler[s].Klasse) +
+                                  Fehler,
+                              {}, Symbol::Warnung);
                 return;
             }
 }
@@ -141,7 +157,7 @@ void Speichern(const QString& Pfad, char Version) {
                "gespeicherten Datei nicht mehr enthalten. Die ursprüngliche Datei liegt in %1.")
                 .arg(Kopie));
     if (Version == '3')
-        MarkenzeilenMelden();
+        BeurteilungsfehlerMelden();
 }
 
 } // namespace

@@ -23,6 +23,16 @@ bool KlasseWieMarke() {
     return false;
 }
 
+/// A student of a damaged file whose number has more than five digits, with an assessment: the marker has no
+/// room for it. Saving tells the user.
+bool NummerZuLangFuerMarke() {
+    for (int i = 0; i < Datenbank.AnzSchueler; ++i)
+        for (const QString& Text : Datenbank.Schueler[i].Beurteilung)
+            if (Datenbank.Schueler[i].ID > 99999 && !Text.isEmpty())
+                return true;
+    return false;
+}
+
 /// A file that cannot be read to its end never counts as loaded.
 QString AbgebrochenRundreise(const QByteArray& Bytes) {
     constexpr bool Ganz = false;
@@ -37,7 +47,8 @@ QString DatenbankRundreise(const QByteArray& Bytes) {
     SetzeParameterDefaults();
     if (Bytes.size() % 8 == 0)
         return AbgebrochenRundreise(Bytes);
-    if (DatenbankLesen(Bytes, true, Ueberhoeren).Ende != Ausgang::Gelesen || KlasseWieMarke())
+    if (DatenbankLesen(Bytes, true, Ueberhoeren).Ende != Ausgang::Gelesen || KlasseWieMarke() ||
+        NummerZuLangFuerMarke())
         return {};
     const QByteArray Geschrieben = DatenbankBytes();
     int Warnungen = 0;

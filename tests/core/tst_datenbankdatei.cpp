@@ -32,6 +32,7 @@ class Datenbankdatei : public QObject {
     void Beurteilung_kommt_mit_jeder_Zeile_zurueck();
     void Zeile_einer_Beurteilung_die_als_Marke_gilt_wird_geschrieben_und_gemeldet_data();
     void Zeile_einer_Beurteilung_die_als_Marke_gilt_wird_geschrieben_und_gemeldet();
+    void Beurteilung_eines_Schuelers_mit_sechsstelliger_Nummer_wird_gemeldet();
     void Alle_Bytes_der_Codeseite_kommen_zurueck();
     void Parameter_folgen_der_Sprache_des_Systems();
     void Volle_Felder_5001_Schueler_kommen_zurueck();
@@ -129,6 +130,16 @@ void Datenbankdatei::Beurteilung_kommt_mit_jeder_Zeile_zurueck() {
     QVERIFY(Testwelt::DateiInhalt(Pfad).contains("\r\n#10000_12#\r\n" + Zeilen + "[Parameter]"));
     QVERIFY(LadeDatenbank(Pfad));
     QCOMPARE(Datenbank.Schueler[0].Beurteilung[11], Text);
+}
+
+void Datenbankdatei::Beurteilung_eines_Schuelers_mit_sechsstelliger_Nummer_wird_gemeldet() {
+    TestbuchLaden(QStringLiteral("Schueler 150000 7a Bauer Anna"));
+    SpeichernDatenbank3(Welt.Pfad(QStringLiteral("buch.txt"))); // without a text there is nothing to tell
+    Datenbank.Schueler[0].Beurteilung[3] = QStringLiteral("liest gern");
+    Welt.Boxen.ErwarteMeldung(QStringLiteral(
+        "Die Datei ist gespeichert, aber die Beurteilung von Bauer Anna (7a) lässt sich nicht wieder laden, "
+        "weil die Nummer 150000 des Schülers mehr als fünf Stellen hat."));
+    SpeichernDatenbank3(Welt.Pfad(QStringLiteral("buch.txt")));
 }
 
 void Datenbankdatei::Zeile_einer_Beurteilung_die_als_Marke_gilt_wird_geschrieben_und_gemeldet_data() {
