@@ -16,5 +16,8 @@ QStringList KlassenDesFelds(const QString& Klassenfeld) {
 }
 
 bool FeldNenntKlasse(const QString& Klassenfeld, const QString& Klasse) {
+    // A field begins with the stem of each of its classes: most fields need not be split.
+    if (Klasse.isEmpty() || !Klassenfeld.startsWith(QStringView(Klasse).chopped(1)))
+        return false;
     return KlassenDesFelds(Klassenfeld).contains(Klasse);
 }

@@ -6,5 +6,6 @@
 /// once, last letter first: "3bc" gives "3c", "3b". More than 10 letters throw a Laufzeitfehler.
 QStringList KlassenDesFelds(const QString& Klassenfeld);
 
-/// True if the class is one of those the field names.
+/// True if the class is one of those the field names. A field with another stem is not split, so it cannot
+/// fail.
 bool FeldNenntKlasse(const QString& Klassenfeld, const QString& Klasse);

@@ -1,7 +1,7 @@
 #include "records/Loeschen.h"
 
+#include "core/Aufruecken.h"
 #include "core/Definitionen.h"
-#include "core/FktSpeziell.h"
 #include "records/Klassenfeld.h"
 
 #include <QHash>
@@ -17,46 +17,48 @@
 
 namespace {
 
-/// What goes: places in the arrays, and the IDs by which other records refer to them.
+/// What goes: marks of the records, and the IDs by which other records refer to them.
 struct Loeschung {
-    QSet<int> Faecher;
+    Marken Faecher = Marken(static_cast<std::size_t>(Datenbank.AnzFaecher));
+    Marken Schueler = Marken(static_cast<std::size_t>(Datenbank.AnzSchueler));
     QSet<qint32> Fach_IDs;
-    QSet<int> Schueler;
     QHash<qint32, int> Schueler_IDs; ///< with the turn in which each is deleted, from 0
     std::vector<QString> Namen;      ///< by turn
-
-    bool NimmtFachzeile(const Notenzeile& Zeile) const { return Fach_IDs.contains(Zeile.Fach_ID); }
-    bool NimmtSchuelerzeile(const Notenzeile& Zeile) const {
-        return Schueler_IDs.contains(Zeile.Schueler_ID) && Zeile.Teilnahme == QStringLiteral("ja");
-    }
 };
 
-/// First record with this ID that is not yet in Weg; -1 if none.
+bool Vorgemerkt(const Marken& Weg, int Platz) {
+    return Weg[static_cast<std::size_t>(Platz)];
+}
+
+/// Marks the first record with this ID that is not marked yet; gives its place, -1 if there is none.
 template <class Feld>
-int ErsterOhne(const Feld& Alle, int Anzahl, qint32 ID, const QSet<int>& Weg) {
-    for (int i = 0; i < Anzahl; ++i)
-        if (Alle[i].ID == ID && !Weg.contains(i))
-            return i;
+int ErstenVormerken(const Feld& Alle, qint32 ID, Marken& Weg) {
+    for (std::size_t i = 0; i < Weg.size(); ++i)
+        if (!Weg[i] && Alle[static_cast<int>(i)].ID == ID) {
+            Weg[i] = true;
+            return static_cast<int>(i);
+        }
     return -1;
 }
 
-void FachVormerken(Loeschung& Was, qint32 ID) {
-    const int Platz = ErsterOhne(Datenbank.Faecher, Datenbank.AnzFaecher, ID, Was.Faecher);
-    if (Platz < 0)
-        return;
-    Was.Faecher.insert(Platz);
+/// False if there is no such subject.
+bool FachVormerken(Loeschung& Was, qint32 ID) {
+    if (ErstenVormerken(Datenbank.Faecher, ID, Was.Faecher) < 0)
+        return false;
     Was.Fach_IDs.insert(ID);
+    return true;
 }
 
-void SchuelerVormerken(Loeschung& Was, qint32 ID) {
-    const int Platz = ErsterOhne(Datenbank.Schueler, Datenbank.AnzSchueler, ID, Was.Schueler);
+/// False if there is no such student.
+bool SchuelerVormerken(Loeschung& Was, qint32 ID) {
+    const int Platz = ErstenVormerken(Datenbank.Schueler, ID, Was.Schueler);
     if (Platz < 0)
-        return;
-    Was.Schueler.insert(Platz);
-    if (Was.Schueler_IDs.contains(ID))
-        return;
-    Was.Schueler_IDs.insert(ID, static_cast<int>(Was.Namen.size()));
-    Was.Namen.push_back(Datenbank.Schueler[Platz].Name);
+        return false;
+    if (!Was.Schueler_IDs.contains(ID)) {
+        Was.Schueler_IDs.insert(ID, static_cast<int>(Was.Namen.size()));
+        Was.Namen.push_back(Datenbank.Schueler[Platz].Name);
+    }
+    return true;
 }
 
 bool IstErgebnis(const QString& Note) {
@@ -69,65 +71,54 @@ void GaesteAusZeile(const Notenzeile& Zeile, const QString& Name, std::vector<ZS
             Gaeste.push_back({k, Zeile.Fach_ID, Name, Zeile.P[k], Zeile.N[k]});
 }
 
-/// The guests that stay in the tests: student by student, each in the order of his rows and tests.
-std::vector<ZSchueler> BleibendeGaeste(const Loeschung& Was) {
-    std::vector<std::pair<int, int>> Zeilen; // turn of the student, place of the row
+/// What becomes of the rows of grades.
+struct Zeilenfolge {
+    Marken Weg = Marken(static_cast<std::size_t>(Datenbank.AnzNoten));
+    std::vector<ZSchueler> Gaeste; ///< stay in the tests: student by student, in the order of rows and tests
+};
+
+Zeilenfolge ZeilenDurchgehen(const Loeschung& Was) {
+    Zeilenfolge Folge;
+    std::vector<std::pair<int, int>> MitErgebnis; // turn of the student, place of the row
     for (int i = 0; i < Datenbank.AnzNoten; ++i) {
         const Notenzeile& Zeile = Datenbank.Noten[i];
-        if (!Was.NimmtFachzeile(Zeile) && Was.NimmtSchuelerzeile(Zeile))
-            Zeilen.emplace_back(Was.Schueler_IDs.value(Zeile.Schueler_ID), i);
+        const bool FachWeg = Was.Fach_IDs.contains(Zeile.Fach_ID);
+        const auto Schueler = Was.Schueler_IDs.constFind(Zeile.Schueler_ID);
+        const bool SchuelerWeg =
+            Schueler != Was.Schueler_IDs.constEnd() && Zeile.Teilnahme == QStringLiteral("ja");
+        Folge.Weg[static_cast<std::size_t>(i)] = FachWeg || SchuelerWeg;
+        if (SchuelerWeg && !FachWeg)
+            MitErgebnis.emplace_back(*Schueler, i);
     }
-    std::sort(Zeilen.begin(), Zeilen.end());
-
-    std::vector<ZSchueler> Gaeste;
-    for (const auto& [Reihenfolge, Platz] : Zeilen)
-        GaesteAusZeile(Datenbank.Noten[Platz], Was.Namen[static_cast<std::size_t>(Reihenfolge)], Gaeste);
-    return Gaeste;
+    std::sort(MitErgebnis.begin(), MitErgebnis.end());
+    for (const auto& [Reihenfolge, Platz] : MitErgebnis)
+        GaesteAusZeile(Datenbank.Noten[Platz], Was.Namen[static_cast<std::size_t>(Reihenfolge)],
+                       Folge.Gaeste);
+    return Folge;
 }
 
-/// Takes out the records for which Weg(record, place) holds; the others keep their order.
-template <class Feld, class Regel>
-void Aufruecken(Feld& Alle, qint16& Anzahl, Regel Weg) {
-    int Ziel = 0;
-    for (int i = 0; i < Anzahl; ++i) {
-        if (Weg(Alle[i], i))
-            continue;
-        if (Ziel != i)
-            Alle[Ziel] = std::move(Alle[i]);
-        ++Ziel;
-    }
-    Anzahl = static_cast<qint16>(Ziel);
-}
-
-void ZSchuelerErneuern(const Loeschung& Was, std::vector<ZSchueler> Gaeste) {
-    Aufruecken(Datenbank.ZSchueler, Datenbank.AnzZSchueler,
-               [&](const ZSchueler& Einer, int) { return Was.Fach_IDs.contains(Einer.Fach_ID); });
-    for (ZSchueler& Gast : Gaeste)
-        Datenbank.ZSchueler[Datenbank.AnzZSchueler++] = std::move(Gast);
-}
-
-void GaestePlatzPruefen(const Loeschung& Was, std::size_t Neue) {
-    const auto Anfang = Datenbank.ZSchueler.begin();
-    const auto Bleiben = std::count_if(Anfang, Anfang + Datenbank.AnzZSchueler, [&](const ZSchueler& Einer) {
-        return !Was.Fach_IDs.contains(Einer.Fach_ID);
-    });
-    const auto Platz = static_cast<std::size_t>(Datenbank.ZSchueler.size());
-    if (static_cast<std::size_t>(Bleiben) + Neue > Platz)
-        IndexFehler(Datenbank.ZSchueler.size(), Platz);
+Marken GehendeZSchueler(const Loeschung& Was) {
+    Marken Weg(static_cast<std::size_t>(Datenbank.AnzZSchueler));
+    for (int i = 0; i < Datenbank.AnzZSchueler; ++i)
+        Weg[static_cast<std::size_t>(i)] = Was.Fach_IDs.contains(Datenbank.ZSchueler[i].Fach_ID);
+    return Weg;
 }
 
 void Durchfuehren(const Loeschung& Was) {
-    std::vector<ZSchueler> Gaeste = BleibendeGaeste(Was);
-    GaestePlatzPruefen(Was, Gaeste.size());
+    Zeilenfolge Zeilen = ZeilenDurchgehen(Was);
+    const Marken ZSchuelerWeg = GehendeZSchueler(Was);
+    const auto Platz = static_cast<std::size_t>(Datenbank.ZSchueler.size());
+    const auto Bleiben =
+        static_cast<std::size_t>(std::count(ZSchuelerWeg.begin(), ZSchuelerWeg.end(), false));
+    if (Bleiben + Zeilen.Gaeste.size() > Platz)
+        IndexFehler(Datenbank.ZSchueler.size(), Platz);
 
-    ZSchuelerErneuern(Was, std::move(Gaeste));
-    Aufruecken(Datenbank.Noten, Datenbank.AnzNoten, [&](const Notenzeile& Zeile, int) {
-        return Was.NimmtFachzeile(Zeile) || Was.NimmtSchuelerzeile(Zeile);
-    });
-    Aufruecken(Datenbank.Faecher, Datenbank.AnzFaecher,
-               [&](const Fach&, int i) { return Was.Faecher.contains(i); });
-    Aufruecken(Datenbank.Schueler, Datenbank.AnzSchueler,
-               [&](const Schueler&, int i) { return Was.Schueler.contains(i); });
+    Aufruecken(Datenbank.ZSchueler, Datenbank.AnzZSchueler, ZSchuelerWeg);
+    for (ZSchueler& Gast : Zeilen.Gaeste)
+        Datenbank.ZSchueler[Datenbank.AnzZSchueler++] = std::move(Gast);
+    Aufruecken(Datenbank.Noten, Datenbank.AnzNoten, Zeilen.Weg);
+    Aufruecken(Datenbank.Faecher, Datenbank.AnzFaecher, Was.Faecher);
+    Aufruecken(Datenbank.Schueler, Datenbank.AnzSchueler, Was.Schueler);
     DatenGeaendert = true;
 }
 
@@ -138,7 +129,7 @@ void FaecherDerKlasseVormerken(Loeschung& Was, const QString& Name) {
         const Fach& Eines = Datenbank.Faecher[i];
         if (Eines.Jahr != Datenbank.AktJahr || !FeldNenntKlasse(Eines.Klasse, Name))
             continue;
-        while (!Was.Faecher.contains(i))
+        while (!Vorgemerkt(Was.Faecher, i))
             FachVormerken(Was, Eines.ID);
     }
 }
@@ -149,33 +140,32 @@ void SchuelerDerKlasseVormerken(Loeschung& Was, const QString& Name) {
         const Schueler& Einer = Datenbank.Schueler[i];
         if (Einer.Klasse != Name || Einer.Jahr != Datenbank.AktJahr)
             continue;
-        while (!Was.Schueler.contains(i))
+        while (!Vorgemerkt(Was.Schueler, i))
             SchuelerVormerken(Was, Einer.ID);
     }
 }
 
 void KlassensatzEntfernen(const QString& Name) {
-    bool Gefunden = false;
-    Aufruecken(Datenbank.Klassen, Datenbank.AnzKlassen, [&](const Klasse& Eine, int) {
-        const bool Weg = !Gefunden && Eine.Name == Name && Eine.Jahr == Datenbank.AktJahr;
-        Gefunden = Gefunden || Weg;
-        return Weg;
-    });
+    const auto Anfang = Datenbank.Klassen.begin();
+    const auto Ende = Anfang + Datenbank.AnzKlassen;
+    const auto Fund = std::find(Anfang, Ende, Klasse{Datenbank.AktJahr, Name});
+    if (Fund == Ende)
+        return;
+    std::move(Fund + 1, Ende, Fund);
+    --Datenbank.AnzKlassen;
 }
 
 } // namespace
 
 void SchuelerLoeschen(qint32 ID) {
     Loeschung Was;
-    SchuelerVormerken(Was, ID);
-    if (!Was.Schueler.isEmpty())
+    if (SchuelerVormerken(Was, ID))
         Durchfuehren(Was);
 }
 
 void FachLoeschen(qint32 ID) {
     Loeschung Was;
-    FachVormerken(Was, ID);
-    if (!Was.Faecher.isEmpty())
+    if (FachVormerken(Was, ID))
         Durchfuehren(Was);
 }
 

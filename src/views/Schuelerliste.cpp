@@ -13,11 +13,10 @@ std::vector<Fachspalte> FachspaltenDerKlasse(const QString& Klasse) {
     std::vector<Fachspalte> Spalten;
     for (int i = 0; i < Datenbank.AnzFaecher; ++i) {
         const Fach& Eines = Datenbank.Faecher[i];
-        if (Eines.Jahr != Datenbank.AktJahr)
+        if (Eines.Jahr != Datenbank.AktJahr || !FeldNenntKlasse(Eines.Klasse, Klasse))
             continue;
-        const QStringList Klassen = KlassenDesFelds(Eines.Klasse);
-        if (Klassen.contains(Klasse))
-            Spalten.push_back({Eines.ID, Klassen.size() > 1 ? Eines.Name + u'*' : Eines.Name});
+        const bool Zusammengelegt = KlassenDesFelds(Eines.Klasse).size() > 1;
+        Spalten.push_back({Eines.ID, Zusammengelegt ? Eines.Name + u'*' : Eines.Name});
     }
     return Spalten;
 }
