@@ -2,6 +2,7 @@
 
 #include "core/AutoDatei.h"
 #include "core/Definitionen.h"
+#include "frame/Programmname.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -75,7 +76,7 @@ void Einrichten(QMessageBox& Kasten, const QString& Text, const QString& Titel, 
     Kasten.setObjectName(QStringLiteral("Meldung"));
     Kasten.setTextFormat(Qt::PlainText);
     Kasten.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    Kasten.setWindowTitle(Titel.isEmpty() ? Programmtitel : Titel);
+    Kasten.setWindowTitle(Titel.isEmpty() ? Programmname : Titel);
     Kasten.setText(BoxText(Text));
     Kasten.setIcon(Kastenbild(Bild));
 }

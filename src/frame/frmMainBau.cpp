@@ -106,6 +106,7 @@ void frmMain::KnopfBauen(const Leisteneintrag& Eintrag) {
     const QString Name = QString::fromUtf8(Eintrag.Name);
     QAction* Aktion = tbToolBar->addAction(Sinnbild(Name.toLower()), QString::fromUtf8(Eintrag.Text));
     Aktion->setObjectName(Name);
+    tbToolBar->widgetForAction(Aktion)->setObjectName(Name);
     const QString Befehl = QString::fromUtf8(Eintrag.Befehl);
     auto* Vorbild = Befehl.isEmpty() ? nullptr : findChild<QAction*>(Befehl);
     Aktion->setEnabled(Vorbild && Vorbild->isEnabled());

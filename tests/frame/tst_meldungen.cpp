@@ -124,7 +124,7 @@ class TestMeldungen : public QObject {
             Boxen.Zeigen({QStringLiteral("?"), Eigener, Knoepfe::Ok, Symbol::Ohne});
         }
         QCOMPARE(Titel,
-                 QStringList({QStringLiteral("Tafelquell 3.1"), QStringLiteral("Sicherheitsabfrage:")}));
+                 QStringList({QStringLiteral("Tafelquell"), QStringLiteral("Sicherheitsabfrage:")}));
     }
 
     void ZeilenendenBrechenDieZeileUm() {
