@@ -123,8 +123,7 @@ class TestMeldungen : public QObject {
                 [&](QMessageBox& Kasten) { Titel.append(Kasten.windowTitle()); });
             Boxen.Zeigen({QStringLiteral("?"), Eigener, Knoepfe::Ok, Symbol::Ohne});
         }
-        QCOMPARE(Titel,
-                 QStringList({QStringLiteral("Tafelquell"), QStringLiteral("Sicherheitsabfrage:")}));
+        QCOMPARE(Titel, QStringList({QStringLiteral("Tafelquell"), QStringLiteral("Sicherheitsabfrage:")}));
     }
 
     void ZeilenendenBrechenDieZeileUm() {
