@@ -16,8 +16,7 @@ QString AutoDatei() {
 }
 
 void AutoDateiSetzen(const QString& Pfad) {
-    if (AutoDatei() != Pfad)
-        EinstellungSchreiben(Schluessel, Pfad);
+    EinstellungSchreiben(Schluessel, Pfad);
 }
 
 void TitelAktualisieren() {

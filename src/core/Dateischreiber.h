@@ -46,6 +46,7 @@ class Dateischreiber {
     struct stat Stand {};
     bool Neu = false;           ///< the target was made by this save
     bool Selbstgerettet = true; ///< the rescue copy is this save's own
+    bool WeitereRettungen = true; ///< there may be copies besides it
     Inhaltsmarke Vorher;
     Rettungskopie Rettung;
     Schritt Wo = Schritt::Oeffnen; ///< where a failure happened
