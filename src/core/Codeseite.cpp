@@ -24,8 +24,8 @@ constexpr std::array<char16_t, 256> Zeichentafel = [] {
 /// Stands in Bytetafel for a character without a byte.
 constexpr char16_t OhneByte = 0x100;
 
-/// The byte of each UTF-16 unit. Text of a grade book touches only its first lines, so the table costs no more
-/// cache than a small one and needs no branch.
+/// The byte of each UTF-16 unit. Text of a grade book touches only its first lines, so the table costs no
+/// more cache than a small one and needs no branch.
 constexpr std::array<char16_t, 65536> Bytetafel = [] {
     std::array<char16_t, 65536> Tafel{};
     Tafel.fill(OhneByte);

@@ -24,8 +24,8 @@ Bestand& Einstellungen() {
 QSettings& Datei() {
     auto& Offene = Einstellungen().Datei;
     if (!Offene)
-        Offene = std::make_unique<QSettings>(QSettings(Anwendung, Anwendung).fileName(),
-                                             QSettings::NativeFormat);
+        Offene =
+            std::make_unique<QSettings>(QSettings(Anwendung, Anwendung).fileName(), QSettings::NativeFormat);
     return *Offene;
 }
 

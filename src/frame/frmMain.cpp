@@ -125,7 +125,7 @@ void frmMain::AnsichtAktualisieren() {
     findChild<QMenu*>(QStringLiteral("mnuFormulierungen"))->menuAction()->setVisible(Nummer == Reiter::B);
     EintragErlauben(QStringLiteral("mnuFileExport"), AnsichtExportiert(Nummer));
     EintragErlauben(QStringLiteral("mnuFileImport"), false);
-    picAnsicht.at(Nummer)->Fuellen();
+    AnsichtHolen(Nummer).Fuellen();
     Hinweis({});
 }
 
@@ -138,11 +138,13 @@ Art* frmMain::Sicht() const {
 }
 
 void frmMain::LernbereicheFuellen() {
-    Sicht<AnsichtB>()->LernbereicheFuellen();
+    if (auto* Eine = Sicht<AnsichtB>()) // a view that is built later fills itself
+        Eine->LernbereicheFuellen();
 }
 
 void frmMain::FormulierungenFuellen() {
-    Sicht<AnsichtB>()->FormulierungenFuellen();
+    if (auto* Eine = Sicht<AnsichtB>())
+        Eine->FormulierungenFuellen();
 }
 
 void frmMain::EintragErlauben(const QString& Name, bool Erlaubt) {
@@ -235,6 +237,9 @@ bool frmMain::event(QEvent* Ereignis) {
             Hinweis(Text);
         return true;
     }
+    // The other views can wait until the first one is to be seen.
+    if (Ereignis->type() == QEvent::Paint && picAnsicht.contains(nullptr))
+        QTimer::singleShot(0, this, &frmMain::UebrigeAnsichtenBauen);
     return QMainWindow::event(Ereignis);
 }
 
