@@ -138,16 +138,22 @@ class TestHauptfenster : public QObject {
         TestbuchLaden(QStringLiteral("Klasse 7a\nFach 50000 7a Mathematik"));
         SpeichernDatenbank3(Welt.Pfad(QStringLiteral("klasse.txt")));
         Fenster.Starten();
-        const auto* Leiste = Fenster.Kind<QWidget>("tbToolBar");
-        for (int Nummer = 0; Nummer < Fenster.Reiter()->count(); ++Nummer) {
-            Fenster.Reiter()->setCurrentIndex(Nummer);
-            QWidget* const Anfang = Fenster.Reiter()->tabBar();
-            Anfang->setFocus();
-            QTest::keyClick(Anfang, Qt::Key_Tab);
-            QVERIFY(Fenster.Reiter()->currentWidget()->isAncestorOf(Fenster->focusWidget()));
-            Anfang->setFocus();
-            QTest::keyClick(Anfang, Qt::Key_Backtab);
-            QVERIFY(Leiste->isAncestorOf(Fenster->focusWidget()));
+        QTabWidget* const Reiter = Fenster.Reiter();
+        const QWidget* const Leiste = Fenster.Kind<QWidget>("tbToolBar");
+        const auto WeiterAus = [this](const QWidget* Teil) {
+            while (Teil->isAncestorOf(Fenster->focusWidget()) || Teil == Fenster->focusWidget())
+                QTest::keyClick(Fenster->focusWidget(), Qt::Key_Tab);
+        };
+        for (int Nummer = 0; Nummer < Reiter->count(); ++Nummer) {
+            Reiter->setCurrentIndex(Nummer);
+            Reiter->tabBar()->setFocus();
+            WeiterAus(Reiter->tabBar());
+            QVERIFY(Reiter->currentWidget()->isAncestorOf(Fenster->focusWidget()));
+            // A grid keeps the key for its cells, so from here on the chain itself tells.
+            QWidget* Naechstes = Fenster->focusWidget();
+            while (Reiter->isAncestorOf(Naechstes) || Naechstes->focusPolicy() == Qt::NoFocus)
+                Naechstes = Naechstes->nextInFocusChain();
+            QVERIFY(Leiste->isAncestorOf(Naechstes));
         }
     }
 
