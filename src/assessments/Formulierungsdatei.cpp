@@ -1,6 +1,7 @@
 #include "assessments/Formulierungsdatei.h"
 
 #include "core/Codeseite.h"
+#include "core/Zeilenschreiber.h"
 #include "core/Zeilenteiler.h"
 
 namespace {
@@ -55,11 +56,6 @@ Formulierungsbefund Schaden(qint32 Zeilennummer, int Bereich, QByteArrayView Zei
             Decodiert(Zeile)};
 }
 
-void ZeileAnhaengen(const QString& Zeile, QByteArray& Bytes) {
-    InCodeseite(Zeile, Bytes);
-    Bytes += "\r\n";
-}
-
 } // namespace
 
 void LernbereicheLeeren(Lernbereichsreihe& Bereiche, qint16& Anzahl) {
@@ -89,15 +85,15 @@ Formulierungsbefund FormulierungenLesen(QByteArrayView Bytes, Lernbereichsreihe&
 }
 
 QByteArray FormulierungenBytes(const Lernbereichsreihe& Bereiche, qint16 Anzahl) {
-    QByteArray Bytes;
-    ZeileAnhaengen(QStringLiteral("[Beurteilungsvorlagen für Tafelquell 3.0]"), Bytes);
+    Zeilenschreiber Z;
+    Z.Zeile("[Beurteilungsvorlagen f\xFCr Tafelquell 3.0]");
     for (int i = 0; i < Anzahl; ++i) {
         const Lernbereich& Einer = Bereiche[i];
-        ZeileAnhaengen(u'[' + Einer.Name + u']', Bytes);
+        Z.Textzeile(u'[' + Einer.Name + u']');
         for (int j = 0; j < Einer.Anzahl; ++j)
-            ZeileAnhaengen(Einer.Formulierung[j], Bytes);
+            Z.Textzeile(Einer.Formulierung[j]);
     }
-    return Bytes;
+    return Z.Bytes();
 }
 
 bool IstBereichszeile(const QString& Zeile) {

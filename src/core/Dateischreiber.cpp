@@ -31,7 +31,8 @@ std::optional<Dateifehler> Dateischreiber::Schreiben() {
     if (const int Fehler = Ersetzen())
         return Unterbrochen(Fehler);
     RettungEntfernen(&Rettung); // a copy that stays equals its target and goes at the next opportunity
-    ErledigteRettungenEntfernen(Name);
+    if (WeitereRettungen)
+        ErledigteRettungenEntfernen(Name);
     return {};
 }
 
@@ -85,7 +86,7 @@ int Dateischreiber::Retten() {
     if (!Selbstgerettet)
         return 0;
     Wo = Schritt::Retten;
-    ErledigteRettungenEntfernen(Name);
+    WeitereRettungen = ErledigteRettungenEntfernen(Name);
     Rettungskopf Kopf;
     Kopf.Ziel = Name;
     Kopf.Geraet = Stand.st_dev;

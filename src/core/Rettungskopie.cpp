@@ -15,8 +15,8 @@ namespace {
 const QByteArray Fertig = QByteArrayLiteral("rescue");
 const QByteArray Unfertig = QByteArrayLiteral("tmp");
 
-QByteArray PfadVon(qint64 Nummer, const QByteArray& Endung) {
-    return Rettungsordner() + "/r." + QByteArray::number(Nummer) + '.' + Endung;
+QByteArray PfadVon(const QByteArray& Ordner, qint64 Nummer, const QByteArray& Endung) {
+    return Ordner + "/r." + QByteArray::number(Nummer) + '.' + Endung;
 }
 
 /// The number of a name r.N.anything; 0 for other names.
@@ -31,15 +31,14 @@ bool IstRettung(const QByteArray& Name) {
     return NummerVon(Name) > 0 && (Name.endsWith('.' + Fertig) || Name.endsWith('.' + Unfertig));
 }
 
-int NamenLesen(QList<QByteArray>* Namen) {
-    const QByteArray Name = Rettungsordner();
-    DIR* const Offener = Beharrlich([&] { return Aufrufe().Opendir(Name.constData()); }, nullptr);
+int NamenLesen(const QByteArray& Ordner, QList<QByteArray>* Namen) {
+    DIR* const Offener = Beharrlich([&] { return Aufrufe().Opendir(Ordner.constData()); }, nullptr);
     if (!Offener)
         return errno == ENOENT ? 0 : errno;
-    const std::unique_ptr<DIR, int (*)(DIR*)> Ordner(Offener, Aufrufe().Closedir);
+    const std::unique_ptr<DIR, int (*)(DIR*)> Eigner(Offener, Aufrufe().Closedir);
     const auto Naechster = [&] {
         errno = 0; // at the end of the folder it stays so
-        return Aufrufe().Readdir(Ordner.get());
+        return Aufrufe().Readdir(Offener);
     };
     while (const dirent* const Eintrag = Beharrlich(Naechster, nullptr))
         Namen->append(QByteArray(Eintrag->d_name));
@@ -47,21 +46,20 @@ int NamenLesen(QList<QByteArray>* Namen) {
 }
 
 /// The folder is there and closed to others.
-int OrdnerBereiten() {
-    const QByteArray Name = Rettungsordner();
-    Deskriptor Ordner;
-    int Fehler = DateiOeffnen(Name, O_RDONLY | O_DIRECTORY, &Ordner);
+int OrdnerBereiten(const QByteArray& Ordner) {
+    Deskriptor Offener;
+    int Fehler = DateiOeffnen(Ordner, O_RDONLY | O_DIRECTORY, &Offener);
     if (Fehler == ENOENT) {
         // Asking for the name has tried to make it; this tells why that failed.
-        Fehler = Beharrlich([&] { return Aufrufe().Mkdir(Name.constData(), 0700); }) == -1 ? errno : 0;
+        Fehler = Beharrlich([&] { return Aufrufe().Mkdir(Ordner.constData(), 0700); }) == -1 ? errno : 0;
         if (Fehler == 0)
-            Fehler = DateiOeffnen(Name, O_RDONLY | O_DIRECTORY, &Ordner);
+            Fehler = DateiOeffnen(Ordner, O_RDONLY | O_DIRECTORY, &Offener);
     }
     struct stat Stand {};
     if (Fehler == 0)
-        Fehler = DateiStand(Ordner, &Stand);
+        Fehler = DateiStand(Offener, &Stand);
     if (Fehler == 0 && (Stand.st_mode & 077U) != 0)
-        Aufrufe().Fchmod(Ordner.Nummer(), 0700); // the copies themselves are closed to others in any case
+        Aufrufe().Fchmod(Offener.Nummer(), 0700); // the copies themselves are closed to others in any case
     return Fehler;
 }
 
@@ -71,9 +69,9 @@ int Sperren(const Deskriptor& Datei) {
     return Ergebnis == -1 && errno == EWOULDBLOCK ? EWOULDBLOCK : 0;
 }
 
-int HoechsteNummer(qint64* Hoechste) {
+int HoechsteNummer(const QByteArray& Ordner, qint64* Hoechste) {
     QList<QByteArray> Namen;
-    const int Fehler = NamenLesen(&Namen);
+    const int Fehler = NamenLesen(Ordner, &Namen);
     for (const QByteArray& Name : Namen)
         *Hoechste = std::max(*Hoechste, NummerVon(Name));
     return Fehler;
@@ -83,14 +81,14 @@ int HoechsteNummer(qint64* Hoechste) {
 /// r.N.rescue, so two programs never meet at one number.
 int UnfertigeAnlegen(Rettungskopie* Neue, qint64* Nummer) {
     *Nummer = 0;
-    int Fehler = HoechsteNummer(Nummer);
+    int Fehler = HoechsteNummer(Neue->Ordner, Nummer);
     constexpr int Versuche = 100;
     for (int Versuch = 1; Fehler == 0 && Versuch <= Versuche; ++Versuch) {
         ++*Nummer;
-        Neue->Pfad = PfadVon(*Nummer, Unfertig);
+        Neue->Pfad = PfadVon(Neue->Ordner, *Nummer, Unfertig);
         Fehler = DateiOeffnen(Neue->Pfad, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, &Neue->Datei, 0600);
         struct stat Stand {};
-        const QByteArray Endgueltig = PfadVon(*Nummer, Fertig);
+        const QByteArray Endgueltig = PfadVon(Neue->Ordner, *Nummer, Fertig);
         const auto Nachsehen = [&] { return Aufrufe().Stat(Endgueltig.constData(), &Stand); };
         if (Fehler == 0 && Beharrlich(Nachsehen) == -1)
             return errno == ENOENT ? Sperren(Neue->Datei) : errno;
@@ -109,13 +107,13 @@ int Fuellen(Rettungskopie* Neue, qint64 Nummer, const Rettungskopf& Kopf, const 
         Fehler = GanzSchreiben(Neue->Datei, Inhalt, Kopfbytes.size());
     if (Fehler == 0)
         Fehler = Synchronisieren(Neue->Datei);
-    const QByteArray Endgueltig = PfadVon(Nummer, Fertig);
+    const QByteArray Endgueltig = PfadVon(Neue->Ordner, Nummer, Fertig);
     if (Fehler == 0)
         Fehler = DateiUmbenennen(Neue->Pfad, Endgueltig);
     if (Fehler != 0)
         return Fehler;
     Neue->Pfad = Endgueltig;
-    return OrdnerSynchronisieren(Rettungsordner());
+    return OrdnerSynchronisieren(Neue->Ordner);
 }
 
 } // namespace
@@ -126,7 +124,7 @@ QByteArray Rettungsordner() {
 
 int RettungAnlegen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungskopie* Neue) {
     Neue->Ordner = Rettungsordner();
-    if (const int Fehler = OrdnerBereiten())
+    if (const int Fehler = OrdnerBereiten(Neue->Ordner))
         return Fehler;
     qint64 Nummer = 0;
     int Fehler = UnfertigeAnlegen(Neue, &Nummer);
@@ -159,7 +157,7 @@ int RettungEntfernen(Rettungskopie* Erledigte) {
 
 int RettungBeiseiteLegen(Rettungskopie* Eine, const QByteArray& Endung, QByteArray* Neuer) {
     const QByteArray Name = Eine->Pfad.mid(Eine->Pfad.lastIndexOf('/') + 1);
-    *Neuer = PfadVon(NummerVon(Name), Endung);
+    *Neuer = PfadVon(Eine->Ordner, NummerVon(Name), Endung);
     struct stat Stand {};
     if (Aufrufe().Stat(Neuer->constData(), &Stand) == 0)
         return EEXIST;
@@ -170,12 +168,13 @@ int RettungBeiseiteLegen(Rettungskopie* Eine, const QByteArray& Endung, QByteArr
 }
 
 int RettungenAuflisten(QList<QByteArray>* Pfade) {
+    const QByteArray Ordner = Rettungsordner();
     QList<QByteArray> Namen;
-    const int Fehler = NamenLesen(&Namen);
+    const int Fehler = NamenLesen(Ordner, &Namen);
     Namen.removeIf([](const QByteArray& Name) { return !IstRettung(Name); });
     std::sort(Namen.begin(), Namen.end(),
               [](const QByteArray& A, const QByteArray& B) { return NummerVon(A) > NummerVon(B); });
     for (const QByteArray& Name : Namen)
-        Pfade->append(Rettungsordner() + '/' + Name);
+        Pfade->append(Ordner + '/' + Name);
     return Fehler;
 }

@@ -122,7 +122,7 @@ void frmMain::AnsichtAktualisieren() {
     findChild<QMenu*>(QStringLiteral("mnuFormulierungen"))->menuAction()->setVisible(Nummer == Reiter::B);
     EintragErlauben(QStringLiteral("mnuFileExport"), AnsichtExportiert(Nummer));
     EintragErlauben(QStringLiteral("mnuFileImport"), false);
-    picAnsicht.at(Nummer)->Fuellen();
+    AnsichtHolen(Nummer).Fuellen();
     Hinweis({});
 }
 
@@ -135,11 +135,13 @@ Art* frmMain::Sicht() const {
 }
 
 void frmMain::LernbereicheFuellen() {
-    Sicht<AnsichtB>()->LernbereicheFuellen();
+    if (auto* Eine = Sicht<AnsichtB>()) // a view that is built later fills itself
+        Eine->LernbereicheFuellen();
 }
 
 void frmMain::FormulierungenFuellen() {
-    Sicht<AnsichtB>()->FormulierungenFuellen();
+    if (auto* Eine = Sicht<AnsichtB>())
+        Eine->FormulierungenFuellen();
 }
 
 void frmMain::EintragErlauben(const QString& Name, bool Erlaubt) {
@@ -232,6 +234,9 @@ bool frmMain::event(QEvent* Ereignis) {
             Hinweis(Text);
         return true;
     }
+    // The other views can wait until the first one is to be seen.
+    if (Ereignis->type() == QEvent::Paint && picAnsicht.contains(nullptr))
+        QTimer::singleShot(0, this, &frmMain::UebrigeAnsichtenBauen);
     return QMainWindow::event(Ereignis);
 }
 

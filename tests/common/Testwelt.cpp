@@ -2,6 +2,7 @@
 
 #include "core/Definitionen.h"
 #include "core/Eingabezaehler.h"
+#include "core/Einstellungen.h"
 #include "core/Oberflaeche.h"
 #include "core/Orte.h"
 #include "core/Uhr.h"
@@ -91,6 +92,7 @@ void Testwelt::Herstellen() {
     // QSettings asks for XDG_CONFIG_HOME only once in a process, so the path is set by its own means.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                        Temp->filePath(QStringLiteral("config")));
+    EinstellungenVergessen();
     QDir(Temp->path()).mkpath(QStringLiteral("programm"));
     ProgrammverzeichnisSetzen(Temp->filePath(QStringLiteral("programm")));
     ZustandsverzeichnisSetzen(Temp->filePath(QStringLiteral("zustand")));

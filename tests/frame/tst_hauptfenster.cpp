@@ -26,6 +26,8 @@
 #include <QToolBar>
 #include <QtTest>
 
+#include <tuple>
+
 class TestHauptfenster : public QObject {
     Q_OBJECT
 
@@ -101,6 +103,57 @@ class TestHauptfenster : public QObject {
                 QVERIFY2(!Zugang->text(QAccessible::Name).isEmpty(),
                          qPrintable(QString::fromLatin1(Feld->metaObject()->className()) + u' ' +
                                     Feld->objectName()));
+        }
+    }
+
+    void DieUebrigenAnsichtenEntstehenNachDemErstenBild() {
+        TestbuchLaden(QStringLiteral("Klasse 7a\nFach 50000 7a Mathematik\nSchueler 10000 7a Huber Anna"));
+        SpeichernDatenbank3(Welt.Pfad(QStringLiteral("klasse.txt")));
+        frmMain Eines;
+        Eines.Laden();
+        const auto Gebaute = [&Eines] {
+            return Eines.findChildren<Ansicht*>(QRegularExpression(QStringLiteral("^picAnsicht_"))).size();
+        };
+        QCOMPARE(Gebaute(), 1);
+        QVERIFY(Eines.findChild<Ansicht*>(QStringLiteral("picAnsicht_1")));
+        const auto Auswahl = [] {
+            return std::make_tuple(AktSchuelerID, AktFachID, AktProbe, AktKlasse, DatenGeaendert);
+        };
+        AktSchuelerID = 10000;
+        const auto Vorher = Auswahl();
+        Eines.show();
+        QTRY_COMPARE(Gebaute(), 5);
+        QVERIFY(Auswahl() == Vorher);
+    }
+
+    void EinWechselVorDemErstenBildBautSeineAnsicht() {
+        frmMain Eines;
+        Eines.Laden();
+        Eines.findChild<QTabWidget*>(QStringLiteral("tabAnsicht"))->setCurrentIndex(4);
+        QVERIFY(Eines.findChild<Ansicht*>(QStringLiteral("picAnsicht_4")));
+        QVERIFY(!Eines.findChild<Ansicht*>(QStringLiteral("picAnsicht_2")));
+    }
+
+    void VonDenReiternFuehrtTabulatorInDieAnsichtUndVonIhrInDieLeiste() {
+        TestbuchLaden(QStringLiteral("Klasse 7a\nFach 50000 7a Mathematik"));
+        SpeichernDatenbank3(Welt.Pfad(QStringLiteral("klasse.txt")));
+        Fenster.Starten();
+        QTabWidget* const Reiter = Fenster.Reiter();
+        const QWidget* const Leiste = Fenster.Kind<QWidget>("tbToolBar");
+        const auto WeiterAus = [this](const QWidget* Teil) {
+            while (Teil->isAncestorOf(Fenster->focusWidget()) || Teil == Fenster->focusWidget())
+                QTest::keyClick(Fenster->focusWidget(), Qt::Key_Tab);
+        };
+        for (int Nummer = 0; Nummer < Reiter->count(); ++Nummer) {
+            Reiter->setCurrentIndex(Nummer);
+            Reiter->tabBar()->setFocus();
+            WeiterAus(Reiter->tabBar());
+            QVERIFY(Reiter->currentWidget()->isAncestorOf(Fenster->focusWidget()));
+            // A grid keeps the key for its cells, so from here on the chain itself tells.
+            QWidget* Naechstes = Fenster->focusWidget();
+            while (Reiter->isAncestorOf(Naechstes) || Naechstes->focusPolicy() == Qt::NoFocus)
+                Naechstes = Naechstes->nextInFocusChain();
+            QVERIFY(Leiste->isAncestorOf(Naechstes));
         }
     }
 
