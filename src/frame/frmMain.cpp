@@ -12,6 +12,7 @@
 #include "core/Fehlerfang.h"
 #include "core/Parameterdatei.h"
 #include "core/Rettung.h"
+#include "core/Rettungsorte.h"
 #include "core/Zahlen.h"
 #include "frame/Ansichten.h"
 #include "frame/Fensterlage.h"
@@ -155,6 +156,7 @@ void frmMain::BefehlAusfuehren(const Menueintrag& Eintrag) {
     if (Eintrag.Zuvor == Fokus::Nehmen)
         FokusNehmen();
     Ausfuehren([this, &Eintrag] { Eintrag.Ablauf(*this); });
+    AusweichhinweisZeigen();
 }
 
 void frmMain::Beenden() {
@@ -198,6 +200,7 @@ void frmMain::closeEvent(QCloseEvent* Ereignis) {
     // At this point the end is settled: an answer "Abbrechen" leaves the changes unsaved.
     Ausfuehren([] { FrageSpeichern(); });
     Ausfuehren([] { FormulierungenAbfrage(); });
+    AusweichhinweisZeigen();
     const auto Fenster = QApplication::topLevelWidgets();
     for (auto Eines = Fenster.crbegin(); Eines != Fenster.crend(); ++Eines)
         if (*Eines != this && (*Eines)->isVisible())
