@@ -127,7 +127,7 @@ class Durchgang:
 
     # The points.
 
-    def punkte(self, zahl):
+    def punkte(self, zahl, stichprobe):
         """(call, number, what) for all calls; in the short form a spread of them."""
         arten = [f"error={f}:when={{}}{d}" for f in FEHLER for d in ("", "+")] + ["signal=KILL:when={}"]
         alle = [(aufruf, n, art) for aufruf, anzahl in zahl.items() for n in range(1, anzahl + 1) for art in arten]
@@ -135,13 +135,14 @@ class Durchgang:
             return alle
         wichtig = ("pwrite64", "fsync", "ftruncate", "fallocate", "rename", "unlink")
         tode = [p for p in alle if p[0] in wichtig and p[2].startswith("signal")]
-        return tode + random.Random(1).sample(alle, min(50, len(alle)))
+        zufall = random.Random(1)
+        return zufall.sample(tode, min(stichprobe, len(tode))) + zufall.sample(alle, min(stichprobe, len(alle)))
 
-    def stoeren(self, teil, vorlage, herrichten, pruefen, zusatz=None):
+    def stoeren(self, teil, vorlage, herrichten, pruefen, zusatz=None, stichprobe=50):
         herrichten()
         zahl = aufrufe_zaehlen(self.welt, vorlage, zusatz)
         print(f"{teil}: {sum(zahl.values())} Aufrufe: {zahl}", flush=True)
-        for aufruf, nummer, art in self.punkte(zahl):
+        for aufruf, nummer, art in self.punkte(zahl, stichprobe):
             herrichten()
             self.welt.spur.unlink(missing_ok=True)
             was = f"{aufruf}:{art.format(nummer)}"
@@ -165,7 +166,7 @@ class Durchgang:
         assert ausgang == "ende" and len(hinweise) == 1 and self.welt.inhalt(self.welt.buch) == self.neu, \
             (ausgang, self.welt.meldungen())
         self.stoeren("Speichern ohne Zustandsordner", "arbeit.txt", lambda: self.welt.frisch(self.alt),
-                     self.nach_arbeit, zusatz)
+                     self.nach_arbeit, zusatz, stichprobe=12)
 
     def phrasen(self):
         """The phrase file: load, add a phrase, save, end."""
@@ -200,7 +201,7 @@ class Durchgang:
         ausgang = welt.lauf("phrasen.txt")
         assert ausgang == "ende" and welt.inhalt(welt.phrasen) == self.phrasen_neu, (ausgang, welt.meldungen())
         self.stoeren("Formulierungen laden und speichern", "phrasen.txt",
-                     lambda: welt.frisch(self.alt, phrasen=self.phrasen_alt), pruefen)
+                     lambda: welt.frisch(self.alt, phrasen=self.phrasen_alt), pruefen, stichprobe=12)
 
     def riesig(self):
         """Lines of 300 MB for every reader; only in the long form, since they take gigabytes."""
