@@ -155,11 +155,15 @@ class Durchgang:
         self.stoeren("Laden, Speichern, Speichern unter", "arbeit.txt", lambda: self.welt.frisch(self.alt),
                      self.nach_arbeit)
 
-    def ausweichen(self):
-        """The same where the state folder cannot be: rescue copies lie in the second folder."""
+    def ohne_zustandsordner(self):
+        """An environment whose state folder cannot be: a file stands in its place."""
         im_weg = self.welt.ordner / "im_weg"
         im_weg.write_bytes(b"")
-        zusatz = {"XDG_STATE_HOME": str(im_weg)}
+        return {"XDG_STATE_HOME": str(im_weg)}
+
+    def ausweichen(self):
+        """The same where the state folder cannot be: rescue copies lie in the second folder."""
+        zusatz = self.ohne_zustandsordner()
         self.welt.frisch(self.alt)
         ausgang = self.welt.lauf("arbeit.txt", zusatz=zusatz)
         hinweise = [z for z in self.welt.meldungen() if AUSWEICHEN in z]
@@ -287,9 +291,10 @@ class Durchgang:
         assert self.welt.lauf([*skript, "aktion mnuFileExit"]) == "ende", self.welt.meldungen()
         dauer = jetzt() - beginn
         zufall = random.Random(2003)
-        for _ in range(30 if self.kurz else 1000):
+        for nummer in range(30 if self.kurz else 1000):
             self.welt.frisch(alt)
-            prozess = self.welt.starten(skript)
+            # Every fourth time the rescue copies lie in the second folder.
+            prozess = self.welt.starten(skript, zusatz=self.ohne_zustandsordner() if nummer % 4 == 3 else None)
             pause = zufall.uniform(0.02, dauer)
             try:
                 prozess.wait(pause)
