@@ -20,6 +20,11 @@ void AutoDateiSetzen(const QString& Pfad) {
         EinstellungSchreiben(Schluessel, Pfad);
 }
 
+bool AutoLaden() {
+    const QString Wert = EinstellungLesen(QStringLiteral("AutoLaden"), {}).toUpper();
+    return Wert != QStringLiteral("FALSE") && Wert != QStringLiteral("FALSCH") && Wert != u'0';
+}
+
 void TitelAktualisieren() {
     AktuelleOberflaeche().TitelSetzen(Programmtitel + QStringLiteral(" - ") + DateiName(AutoDatei()));
 }

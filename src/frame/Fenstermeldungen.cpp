@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr int LaengstesWort = 60;
-
 /// The window over which a box belongs; while none is active, the main window.
 QWidget* Besitzer() {
     if (QWidget* Dialog = QApplication::activeModalWidget())
@@ -133,8 +131,6 @@ std::optional<Dateiwahl> DateiWaehlen(QFileDialog& Dialog, const Dateiwunsch& Wu
 QString BoxText(const QString& Text) {
     QString Ergebnis = Text;
     Ergebnis.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-    static const QRegularExpression LangesWort(QStringLiteral("\\S{%1}").arg(LaengstesWort));
-    Ergebnis.replace(LangesWort, QStringLiteral("\\0\u200B"));
     return Ergebnis;
 }
 

@@ -13,7 +13,6 @@
 #include "core/Parameterdatei.h"
 #include "core/Rettung.h"
 #include "core/Rettungsorte.h"
-#include "core/Zahlen.h"
 #include "frame/Ansichten.h"
 #include "frame/Fensterlage.h"
 #include "frame/Hinweiszeile.h"
@@ -76,9 +75,7 @@ void frmMain::Laden() {
 
 void frmMain::LetzteDateiLaden() {
     const QString Pfad = AutoDatei();
-    const bool Automatisch =
-        WahrheitLesen(EinstellungLesen(QStringLiteral("AutoLaden"), QStringLiteral("True")));
-    if (Automatisch && Pfad != Unbenannt) {
+    if (AutoLaden() && Pfad != Unbenannt) {
         if (!LadeDatenbank(Pfad))
             DatenbankWiederherstellen(Pfad);
     } else {

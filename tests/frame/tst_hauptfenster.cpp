@@ -124,11 +124,22 @@ class TestHauptfenster : public QObject {
         QCOMPARE(Datenbank.AnzKlassen, qint16(1));
     }
 
-    void MitAutoLadenFalschWirdNichtsGeladen() {
+    void NurEinFalschesAutoLadenHaeltDasLadenAuf_data() {
+        QTest::addColumn<QString>("Wert");
+        QTest::addColumn<QString>("Datei");
+        const QString Geladen = QStringLiteral("klasse.txt");
+        for (const char* Falsch : {"False", "false", "Falsch", "0"})
+            QTest::newRow(Falsch) << QString::fromLatin1(Falsch) << Unbenannt;
+        for (const char* Wahr : {"True", "Wahr", "1", "-1", ""})
+            QTest::newRow(Wahr) << QString::fromLatin1(Wahr) << Geladen;
+    }
+    void NurEinFalschesAutoLadenHaeltDasLadenAuf() {
+        QFETCH(QString, Wert);
+        QFETCH(QString, Datei);
         SpeichernDatenbank3(Welt.Pfad(QStringLiteral("klasse.txt")));
-        EinstellungSchreiben(QStringLiteral("AutoLaden"), QStringLiteral("False"));
+        EinstellungSchreiben(QStringLiteral("AutoLaden"), Wert);
         Fenster.Starten();
-        QCOMPARE(Fenster->windowTitle(), QStringLiteral("Tafelquell 3.1 - Unbenannt"));
+        QCOMPARE(Fenster->windowTitle(), QStringLiteral("Tafelquell 3.1 - ") + Datei);
     }
 
     void EineVerschwundeneDateiFuehrtZuMeldungUndNeuerDatenbank() {

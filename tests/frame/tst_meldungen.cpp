@@ -131,6 +131,15 @@ class TestMeldungen : public QObject {
         QCOMPARE(BoxText(QStringLiteral("a\r\nb\rc\nd")), QStringLiteral("a\nb\nc\nd"));
     }
 
+    void EinLangerPfadStehtWortFuerWortInDerBox() {
+        const QString Pfad = QStringLiteral("/home/lehrerin/Dokumente/Schule/Noten/2003-2004/Grundschule/") +
+                             QStringLiteral("Jahrgangsstufen/klasse7a_2003_04.txt");
+        QString Gezeigt;
+        const Bediener<QMessageBox> Hand([&](QMessageBox& Kasten) { Gezeigt = Kasten.text(); });
+        Boxen.Zeigen({Pfad, {}, Knoepfe::Ok, Symbol::Ohne});
+        QCOMPARE(Gezeigt, Pfad);
+    }
+
     void EinEndlosesWortPasstAufDenBildschirm() {
         int Breite = 0;
         const Bediener<QMessageBox> Hand([&](QMessageBox& Kasten) { Breite = Kasten.width(); });
