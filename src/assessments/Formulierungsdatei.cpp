@@ -1,5 +1,6 @@
 #include "assessments/Formulierungsdatei.h"
 
+#include "core/Anzeigetext.h"
 #include "core/Codeseite.h"
 #include "core/Zeilenschreiber.h"
 #include "core/Zeilenteiler.h"
@@ -53,7 +54,7 @@ Formulierungsbefund Schaden(qint32 Zeilennummer, int Bereich, QByteArrayView Zei
             {},
             Zeilennummer,
             static_cast<qint16>(Bereich),
-            Decodiert(Zeile)};
+            Anzeigetext({Zeile.data(), static_cast<std::size_t>(Zeile.size())})};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "core/Dateischreiber.h"
 
 #include "core/Rettungslage.h"
+#include "core/Rettungsorte.h"
 #include "core/Uhr.h"
 
 #include <QFile>
@@ -184,7 +185,8 @@ Dateifehler Dateischreiber::Unterbrochen(int Nummer) const {
     return {FehlerArt(Nummer), Nummer, Schrittname(),
             QStringLiteral("Die Datei \"%1\" konnte nicht vollständig gespeichert werden.\nGrund: %2.\n"
                            "Der neue Stand steht vollständig in der Rettungskopie \"%3\".")
-                .arg(Pfad, FehlerUrsache(Nummer), Kopie),
+                    .arg(Pfad, FehlerUrsache(Nummer), Kopie) +
+                Fluechtigkeitshinweis(Rettung.Pfad),
             Kopie};
 }
 

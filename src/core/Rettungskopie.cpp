@@ -1,11 +1,10 @@
 #include "core/Rettungskopie.h"
 
-#include "core/Orte.h"
-
-#include <QFile>
+#include "core/Rettungsorte.h"
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -17,6 +16,10 @@ const QByteArray Unfertig = QByteArrayLiteral("tmp");
 
 QByteArray PfadVon(const QByteArray& Ordner, qint64 Nummer, const QByteArray& Endung) {
     return Ordner + "/r." + QByteArray::number(Nummer) + '.' + Endung;
+}
+
+QByteArray NameVon(const QByteArray& Pfad) {
+    return Pfad.mid(Pfad.lastIndexOf('/') + 1);
 }
 
 /// The number of a name r.N.anything; 0 for other names.
@@ -31,14 +34,14 @@ bool IstRettung(const QByteArray& Name) {
     return NummerVon(Name) > 0 && (Name.endsWith('.' + Fertig) || Name.endsWith('.' + Unfertig));
 }
 
-int NamenLesen(const QByteArray& Ordner, QList<QByteArray>* Namen) {
-    DIR* const Offener = Beharrlich([&] { return Aufrufe().Opendir(Ordner.constData()); }, nullptr);
+int NamenLesen(const QByteArray& Pfad, QList<QByteArray>* Namen) {
+    DIR* const Offener = Beharrlich([&] { return Aufrufe().Opendir(Pfad.constData()); }, nullptr);
     if (!Offener)
         return errno == ENOENT ? 0 : errno;
-    const std::unique_ptr<DIR, int (*)(DIR*)> Eigner(Offener, Aufrufe().Closedir);
+    const std::unique_ptr<DIR, int (*)(DIR*)> Ordner(Offener, Aufrufe().Closedir);
     const auto Naechster = [&] {
         errno = 0; // at the end of the folder it stays so
-        return Aufrufe().Readdir(Offener);
+        return Aufrufe().Readdir(Ordner.get());
     };
     while (const dirent* const Eintrag = Beharrlich(Naechster, nullptr))
         Namen->append(QByteArray(Eintrag->d_name));
@@ -46,20 +49,20 @@ int NamenLesen(const QByteArray& Ordner, QList<QByteArray>* Namen) {
 }
 
 /// The folder is there and closed to others.
-int OrdnerBereiten(const QByteArray& Ordner) {
-    Deskriptor Offener;
-    int Fehler = DateiOeffnen(Ordner, O_RDONLY | O_DIRECTORY, &Offener);
+int OrdnerBereiten(const QByteArray& Name) {
+    Deskriptor Ordner;
+    int Fehler = DateiOeffnen(Name, O_RDONLY | O_DIRECTORY, &Ordner);
     if (Fehler == ENOENT) {
-        // Asking for the name has tried to make it; this tells why that failed.
-        Fehler = Beharrlich([&] { return Aufrufe().Mkdir(Ordner.constData(), 0700); }) == -1 ? errno : 0;
+        // Asking for the name of the state folder has tried to make it; this tells why that failed.
+        Fehler = Beharrlich([&] { return Aufrufe().Mkdir(Name.constData(), 0700); }) == -1 ? errno : 0;
         if (Fehler == 0)
-            Fehler = DateiOeffnen(Ordner, O_RDONLY | O_DIRECTORY, &Offener);
+            Fehler = DateiOeffnen(Name, O_RDONLY | O_DIRECTORY, &Ordner);
     }
     struct stat Stand {};
     if (Fehler == 0)
-        Fehler = DateiStand(Offener, &Stand);
+        Fehler = DateiStand(Ordner, &Stand);
     if (Fehler == 0 && (Stand.st_mode & 077U) != 0)
-        Aufrufe().Fchmod(Offener.Nummer(), 0700); // the copies themselves are closed to others in any case
+        Aufrufe().Fchmod(Ordner.Nummer(), 0700); // the copies themselves are closed to others in any case
     return Fehler;
 }
 
@@ -69,12 +72,18 @@ int Sperren(const Deskriptor& Datei) {
     return Ergebnis == -1 && errno == EWOULDBLOCK ? EWOULDBLOCK : 0;
 }
 
+/// Over all folders, so that numbers tell the order in which copies were made. Only Ordner must be readable.
 int HoechsteNummer(const QByteArray& Ordner, qint64* Hoechste) {
-    QList<QByteArray> Namen;
-    const int Fehler = NamenLesen(Ordner, &Namen);
-    for (const QByteArray& Name : Namen)
-        *Hoechste = std::max(*Hoechste, NummerVon(Name));
-    return Fehler;
+    int Ergebnis = 0;
+    for (const QByteArray& Einer : AlleRettungsordner()) {
+        QList<QByteArray> Namen;
+        const int Fehler = NamenLesen(Einer, &Namen);
+        if (Einer == Ordner)
+            Ergebnis = Fehler;
+        for (const QByteArray& Name : Namen)
+            *Hoechste = std::max(*Hoechste, NummerVon(Name));
+    }
+    return Ergebnis;
 }
 
 /// Creates r.N.tmp under a number that nothing else bears. Whoever has made r.N.tmp alone may make
@@ -116,15 +125,10 @@ int Fuellen(Rettungskopie* Neue, qint64 Nummer, const Rettungskopf& Kopf, const 
     return OrdnerSynchronisieren(Neue->Ordner);
 }
 
-} // namespace
-
-QByteArray Rettungsordner() {
-    return QFile::encodeName(Zustandsverzeichnis());
-}
-
-int RettungAnlegen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungskopie* Neue) {
-    Neue->Ordner = Rettungsordner();
-    if (const int Fehler = OrdnerBereiten(Neue->Ordner))
+int InOrdnerAnlegen(const QByteArray& Ordner, const Rettungskopf& Kopf, const QByteArray& Inhalt,
+                    Rettungskopie* Neue) {
+    Neue->Ordner = Ordner;
+    if (const int Fehler = OrdnerBereiten(Ordner))
         return Fehler;
     qint64 Nummer = 0;
     int Fehler = UnfertigeAnlegen(Neue, &Nummer);
@@ -133,6 +137,29 @@ int RettungAnlegen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungsk
     if (Fehler != 0 && Neue->Datei.Offen())
         RettungEntfernen(Neue);
     return Fehler;
+}
+
+} // namespace
+
+int RettungAnlegen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungskopie* Neue) {
+    const int Grund = InOrdnerAnlegen(Rettungsordner(), Kopf, Inhalt, Neue);
+    if (Grund == 0 || !AusweichenHilft(Grund))
+        return Grund;
+    for (const QByteArray& Ordner : AlleRettungsordner().mid(1))
+        if (InOrdnerAnlegen(Ordner, Kopf, Inhalt, Neue) == 0) {
+            AusweichenMerken(Ordner, Grund);
+            return 0;
+        }
+    return Grund;
+}
+
+int RettungHeimholen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungskopie* Eine) {
+    Rettungskopie Neue;
+    if (const int Fehler = InOrdnerAnlegen(Rettungsordner(), Kopf, Inhalt, &Neue))
+        return Fehler;
+    RettungEntfernen(Eine); // one that stays is the same, and goes when its twin does
+    *Eine = std::move(Neue);
+    return 0;
 }
 
 int RettungOeffnen(const QByteArray& Pfad, Rettungskopie* Gefundene) {
@@ -156,8 +183,7 @@ int RettungEntfernen(Rettungskopie* Erledigte) {
 }
 
 int RettungBeiseiteLegen(Rettungskopie* Eine, const QByteArray& Endung, QByteArray* Neuer) {
-    const QByteArray Name = Eine->Pfad.mid(Eine->Pfad.lastIndexOf('/') + 1);
-    *Neuer = PfadVon(Eine->Ordner, NummerVon(Name), Endung);
+    *Neuer = PfadVon(Eine->Ordner, NummerVon(NameVon(Eine->Pfad)), Endung);
     struct stat Stand {};
     if (Aufrufe().Stat(Neuer->constData(), &Stand) == 0)
         return EEXIST;
@@ -167,14 +193,21 @@ int RettungBeiseiteLegen(Rettungskopie* Eine, const QByteArray& Endung, QByteArr
     return Fehler;
 }
 
-int RettungenAuflisten(QList<QByteArray>* Pfade) {
-    const QByteArray Ordner = Rettungsordner();
-    QList<QByteArray> Namen;
-    const int Fehler = NamenLesen(Ordner, &Namen);
-    Namen.removeIf([](const QByteArray& Name) { return !IstRettung(Name); });
-    std::sort(Namen.begin(), Namen.end(),
-              [](const QByteArray& A, const QByteArray& B) { return NummerVon(A) > NummerVon(B); });
-    for (const QByteArray& Name : Namen)
-        Pfade->append(Ordner + '/' + Name);
-    return Fehler;
+int RettungenAuflisten(QList<QByteArray>* Pfade, QByteArray* Unlesbar) {
+    int Ergebnis = 0;
+    for (const QByteArray& Ordner : AlleRettungsordner()) {
+        QList<QByteArray> Namen;
+        const int Fehler = NamenLesen(Ordner, &Namen);
+        if (Fehler != 0 && Unlesbar)
+            *Unlesbar = Ordner;
+        Ergebnis = Fehler != 0 ? Fehler : Ergebnis;
+        for (const QByteArray& Name : Namen)
+            if (IstRettung(Name))
+                Pfade->append(Ordner + '/' + Name);
+    }
+    // Of two with one number the one in the state folder comes first.
+    std::stable_sort(Pfade->begin(), Pfade->end(), [](const QByteArray& A, const QByteArray& B) {
+        return NummerVon(NameVon(A)) > NummerVon(NameVon(B));
+    });
+    return Ergebnis;
 }

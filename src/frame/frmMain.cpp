@@ -12,6 +12,7 @@
 #include "core/Fehlerfang.h"
 #include "core/Parameterdatei.h"
 #include "core/Rettung.h"
+#include "core/Rettungsorte.h"
 #include "frame/Ansichten.h"
 #include "frame/Fensterlage.h"
 #include "frame/Hinweiszeile.h"
@@ -154,6 +155,7 @@ void frmMain::BefehlAusfuehren(const Menueintrag& Eintrag) {
     if (Eintrag.Zuvor == Fokus::Nehmen)
         FokusNehmen();
     Ausfuehren([this, &Eintrag] { Eintrag.Ablauf(*this); });
+    AusweichhinweisZeigen();
 }
 
 void frmMain::Beenden() {
@@ -197,6 +199,7 @@ void frmMain::closeEvent(QCloseEvent* Ereignis) {
     // At this point the end is settled: an answer "Abbrechen" leaves the changes unsaved.
     Ausfuehren([] { FrageSpeichern(); });
     Ausfuehren([] { FormulierungenAbfrage(); });
+    AusweichhinweisZeigen();
     const auto Fenster = QApplication::topLevelWidgets();
     for (auto Eines = Fenster.crbegin(); Eines != Fenster.crend(); ++Eines)
         if (*Eines != this && (*Eines)->isVisible())

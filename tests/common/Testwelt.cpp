@@ -5,6 +5,7 @@
 #include "core/Einstellungen.h"
 #include "core/Oberflaeche.h"
 #include "core/Orte.h"
+#include "core/Rettungsorte.h"
 #include "core/Uhr.h"
 #include "core/Zahlen.h"
 
@@ -96,6 +97,8 @@ void Testwelt::Herstellen() {
     QDir(Temp->path()).mkpath(QStringLiteral("programm"));
     ProgrammverzeichnisSetzen(Temp->filePath(QStringLiteral("programm")));
     ZustandsverzeichnisSetzen(Temp->filePath(QStringLiteral("zustand")));
+    qunsetenv("XDG_RUNTIME_DIR"); // no second place for rescue copies, unless a test makes one
+    AusweichhinweisVergessen();
     UhrStellen(QDateTime(QDate(2003, 10, 12), QTime(10, 30)));
     SystemSpracheSetzen(QLocale(QLocale::German, QLocale::Germany));
     OberflaecheSetzen(nullptr);
