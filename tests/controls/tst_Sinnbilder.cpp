@@ -11,8 +11,11 @@ class TestSinnbilder : public QObject {
     static QImage Bild(const QIcon& Eines, int Kante, QIcon::Mode Art = QIcon::Normal) {
         return Eines.pixmap(QSize(Kante, Kante), 1.0, Art).toImage().convertToFormat(QImage::Format_ARGB32);
     }
+    /// Point for point, whatever scale the name says.
     static QImage Datei(const QString& Name) {
-        return QImage(QStringLiteral(":/symbole/") + Name).convertToFormat(QImage::Format_ARGB32);
+        QImage Gelesen(QStringLiteral(":/symbole/") + Name);
+        Gelesen.setDevicePixelRatio(1);
+        return Gelesen.convertToFormat(QImage::Format_ARGB32);
     }
 
   private Q_SLOTS:
