@@ -2,6 +2,7 @@
 #include "common/Testbuch.h"
 #include "common/Testprogramm.h"
 #include "controls/Ansicht.h"
+#include "controls/Gitter.h"
 #include "controls/Kombinationsfeld.h"
 #include "controls/Textfeld.h"
 #include "core/Datenbankdatei.h"
@@ -24,6 +25,7 @@
 #include <QTabBar>
 #include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 #include <QtTest>
 
 #include <tuple>
@@ -166,6 +168,18 @@ class TestHauptfenster : public QObject {
         QVERIFY(!DatenGeaendert);
         QVERIFY(FormularBereit);
         QCOMPARE(Hinweis(), QString());
+    }
+
+    void DieKnoepfeDerLeisteTragenIhrenNamen() {
+        Fenster.Starten();
+        for (const char* Name : {"New", "Open", "Save", "Print", "Cut", "Copy", "Paste"})
+            QVERIFY2(Fenster.Kind<QToolButton>(Name), Name);
+    }
+
+    void DieSchuelerlisteHatIhrenKopfVorDemErstenBesuch() {
+        Fenster.Starten();
+        QTRY_VERIFY(Fenster.Kind<Gitter>("tblSSchueler"));
+        QCOMPARE(Fenster.Kind<Gitter>("tblSSchueler")->TextMatrix(1, 0), QStringLiteral("Schüler"));
     }
 
     void DieLetzteDateiWirdGeladen() {
