@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
@@ -35,8 +36,13 @@ class Sinnbildmaschine : public QIconEngine {
 
     QIconEngine* clone() const override { return new Sinnbildmaschine(*this); }
     QString iconName() override { return Name; }
+    /// Those of the screens at hand: window managers are given every one of these, read or not.
     QList<QSize> availableSizes(QIcon::Mode /*Art*/, QIcon::State /*Zustand*/) override {
-        return {Groesse(1), Groesse(2), Groesse(3)};
+        QList<QSize> Groessen;
+        const int Hoechste = std::clamp(qCeil(qGuiApp->devicePixelRatio()), 1, Stufen);
+        for (int Stufe = 1; Stufe <= Hoechste; ++Stufe)
+            Groessen.append(Groesse(Stufe));
+        return Groessen;
     }
     /// Not more than there is: a picture is made smaller, never larger.
     QSize actualSize(const QSize& Gewuenscht, QIcon::Mode /*Art*/, QIcon::State /*Zustand*/) override {

@@ -36,8 +36,11 @@ class TestSinnbilder : public QObject {
 
     void DasDesProgrammsIstViermalSoBreit() {
         QCOMPARE(Bild(Programmsinnbild(), 96), Datei(QStringLiteral("tafelquell.png")));
-        const QList<QSize> Groessen{{96, 96}, {192, 192}, {288, 288}};
-        QCOMPARE(Programmsinnbild().availableSizes(), Groessen);
+    }
+
+    void FensterverwaltungenBekommenNurWasDerBildschirmBraucht() {
+        QCOMPARE(qGuiApp->devicePixelRatio(), 1.0);
+        QCOMPARE(Programmsinnbild().availableSizes(), QList<QSize>({QSize(96, 96)}));
     }
 
     void EsWirdVerkleinertAberNieVergroessert_data() {

@@ -72,6 +72,13 @@ class TestEinstellungen : public QObject {
         QCOMPARE(EinstellungLesen(QStringLiteral("AutoDatei"), Unbenannt), QStringLiteral("/b/noch_eine_fremde.txt"));
     }
 
+    void eineAenderungGiltSofortAuchFuerEinenGelesenenWert() {
+        AndererLaufSchreibt("MaxNote=6\n");
+        QCOMPARE(EinstellungLesen(QStringLiteral("MaxNote"), {}), QStringLiteral("6"));
+        EinstellungSchreiben(QStringLiteral("MaxNote"), QStringLiteral("5"));
+        QCOMPARE(EinstellungLesen(QStringLiteral("MaxNote"), {}), QStringLiteral("5"));
+    }
+
     void eineVorgabeGiltNurFuerIhrenAufruf() {
         QCOMPARE(EinstellungLesen(QStringLiteral("MaxNote"), QStringLiteral("6")), QStringLiteral("6"));
         QCOMPARE(EinstellungLesen(QStringLiteral("MaxNote"), QStringLiteral("5")), QStringLiteral("5"));
