@@ -4,7 +4,8 @@
 
 #include <vector>
 
-// What view S lists of a class, from the records.
+// What view S lists of a class, from the records. Columns: 0 the name, 1..P the subjects, then the 14 free
+// fields.
 
 /// A subject the class takes part in.
 struct Fachspalte {
@@ -16,16 +17,27 @@ struct Fachspalte {
 
 /// A student of the class.
 struct Schuelerzeile {
-    int Platz = 0;                  ///< place in Datenbank.Schueler
-    std::vector<QString> Teilnahme; ///< in each of the subjects; empty without a row of grades
+    int Platz = 0; ///< place in Datenbank.Schueler
+    qint32 ID = 0;
+    std::size_t Noten = 0; ///< where its places begin in Notenplaetze
 
     bool operator==(const Schuelerzeile&) const = default;
 };
 
+/// The list of a class of one moment. It holds where the texts stand, not the texts.
 struct Schuelerliste {
     std::vector<Fachspalte> Faecher;   ///< in record order
     std::vector<Schuelerzeile> Zeilen; ///< the last record first
+    std::vector<int> Notenplaetze;     ///< for each row and subject a place in Datenbank.Noten; -1 for none
+
+    int Faecherzahl() const { return static_cast<int>(Faecher.size()); }
+    int Spalten() const; ///< 15 + P
+    /// What a cell shows: the text of the record, wherever it stands now; "" without a record.
+    const QString& Text(std::size_t Zeile, int Spalte) const;
 };
 
 /// The list of a class of AktJahr; empty for a class that does not exist.
 Schuelerliste SchuelerlisteDerKlasse(const QString& Klasse);
+
+/// Puts the rows in the order of the texts of a column; equal ones stay as they stand.
+void NachSpalteOrdnen(Schuelerliste& Liste, int Spalte);
