@@ -24,7 +24,7 @@ constexpr QSize Fenstergroesse(1280, 700);
 constexpr int Lang = 5000;
 constexpr int Kurz = 35;
 
-const QString Klasse = QStringLiteral("7a");        ///< whose list is measured
+const QString LangeKlasse = QStringLiteral("7a");        ///< whose list is measured
 const QString AndereKlasse = QStringLiteral("7b");  ///< the rest of the students
 const QString KleineKlasse = QStringLiteral("7c");  ///< a single student; chosen before
 const qint32& FachL = Datenbank.Faecher[0].ID;      ///< whose list is measured
@@ -38,17 +38,20 @@ void BuchFuellen() {
         Datenbank.Faecher[i].Jahr = i < 10 ? Datenbank.AktJahr : QStringLiteral("2002/03");
     for (int i = 0; i < Datenbank.AnzKlassen; ++i)
         Datenbank.Klassen[i].Jahr = QStringLiteral("2002/03");
+    // Each student has a name of his own, as a school has them.
+    for (int i = 0; i < Datenbank.AnzSchueler; ++i)
+        Datenbank.Schueler[i].Name += QString::number(i % 7919 * 31 % 5003);
     int Nummer = 0;
-    for (const QString& Name : {Klasse, AndereKlasse, KleineKlasse})
+    for (const QString& Name : {LangeKlasse, AndereKlasse, KleineKlasse})
         Datenbank.Klassen[Nummer++] = {Datenbank.AktJahr, Name};
-    AktKlasse = Klasse;
+    AktKlasse = LangeKlasse;
     AktFachID = FachL;
     AktSchuelerID = 0;
 }
 
 void KlasseSetzen(int Anzahl) {
     for (int i = 0; i < Datenbank.AnzSchueler; ++i)
-        Datenbank.Schueler[i].Klasse = i < Anzahl ? Klasse : AndereKlasse;
+        Datenbank.Schueler[i].Klasse = i < Anzahl ? LangeKlasse : AndereKlasse;
     Datenbank.Schueler[Datenbank.AnzSchueler - 1].Klasse = KleineKlasse;
 }
 
@@ -59,7 +62,7 @@ void TeilnahmeSetzen() {
         Datenbank.Noten[i].Schueler_ID = Datenbank.Schueler[i % Lang].ID;
     }
     for (int i = 0; i < Datenbank.AnzFaecher; ++i)
-        Datenbank.Faecher[i].Klasse = i < 2 ? Klasse : AndereKlasse;
+        Datenbank.Faecher[i].Klasse = i < 2 ? LangeKlasse : AndereKlasse;
 }
 
 void FachlisteSetzen(int Anzahl) {
@@ -208,7 +211,7 @@ void SchuelernotenMessen() {
            }));
     AktSchuelerID = 0;
     Melden(Name + QStringLiteral(", class of 5000 names against 35: class chosen"),
-           LangGegenKurz(KlasseSetzen, [&] { return Eines.Waehlen("cbN2Klasse", KleineKlasse, Klasse); }));
+           LangGegenKurz(KlasseSetzen, [&] { return Eines.Waehlen("cbN2Klasse", KleineKlasse, LangeKlasse); }));
 }
 
 template <class Art>
@@ -218,7 +221,7 @@ void KlasseMessen(const QString& Name, const char* Klassenfeld) {
     BetretenMessen<Art>(Name, KlasseSetzen);
     Reiterfenster<Art> Eines;
     Melden(Name + QStringLiteral(", 5000 rows against 35: class chosen"),
-           LangGegenKurz(KlasseSetzen, [&] { return Eines.Waehlen(Klassenfeld, KleineKlasse, Klasse); }));
+           LangGegenKurz(KlasseSetzen, [&] { return Eines.Waehlen(Klassenfeld, KleineKlasse, LangeKlasse); }));
     WachstumMessen<Art>(Name, KlasseSetzen);
 }
 
@@ -230,6 +233,15 @@ int main(int argc, char** argv) {
     const QApplication Programm(argc, argv);
     SystemSpracheSetzen(QLocale(QLocale::German, QLocale::Germany));
     FormularBereit = true;
+    if (argc > 1) {
+        BuchFuellen(); TeilnahmeSetzen(); KlasseSetzen(atoi(argv[2]));
+        const auto Lauf = [&](auto& F, const char* N) { double Summe = 0; for (int i = 0; i < 300; ++i) Summe += F.Waehlen(N, KleineKlasse, LangeKlasse); qInfo("%f ms", Summe / 300 * 1e3); };
+        if (argv[1][0] == 'S') { Reiterfenster<AnsichtS> E; Lauf(E, "cbSKlasse"); }
+        if (argv[1][0] == 'B') { Reiterfenster<AnsichtB> E; Lauf(E, "cbBKlasse"); }
+        if (argv[1][0] == '2') { Reiterfenster<AnsichtN2> E; Lauf(E, "cbN2Klasse"); }
+        if (argv[1][0] == '1') { FachlisteSetzen(atoi(argv[2])); Reiterfenster<AnsichtN1> E; double Summe = 0; for (int i = 0; i < 300; ++i) Summe += E.Waehlen("cbN1KlasseFach", QStringLiteral("7a Fach 3"), QStringLiteral("7a Fach 1")); qInfo("%f ms", Summe / 300 * 1e3); }
+        return 0;
+    }
     FachlisteMessen();
     SchuelernotenMessen();
     KlasseMessen<AnsichtS>(QStringLiteral("view S"), "cbSKlasse");

@@ -218,7 +218,7 @@ std::vector<int> Gitter::Sortierfolge(int Spalte, int Von, int Bis, Sortierart A
     for (int z = Von; z <= Bis; ++z)
         Texte.push_back(TextMatrix(z, Spalte));
     if (Art == Sortierart::TextAufsteigend)
-        return Textfolge(Texte);
+        return Textfolge(Texte.size(), [&Texte](std::size_t i) -> const QString& { return Texte[i]; });
     std::vector<float> Zahlen(Texte.size());
     std::transform(Texte.begin(), Texte.end(), Zahlen.begin(), ZahlAusText);
     std::vector<int> Folge(Texte.size());

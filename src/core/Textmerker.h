@@ -6,24 +6,27 @@
 
 /// True if both are one text object: then nobody has written either since one was copied from the other.
 /// Compares no letter.
-inline bool DerselbeText(const QString& Eines, const QString& Anderes) {
+inline bool NochDieselben(const QString& Eines, const QString& Anderes) {
     return Eines.constData() == Anderes.constData() && Eines.size() == Anderes.size();
 }
 
-/// Keeps a value worked out of a text, such as its width, for each place where a text stands. It is worked
-/// out anew when another text stands there: whoever writes a text makes it another one, since this keeps a
-/// copy of what it has seen.
-template <class Wert>
+/// Keeps a value worked out of texts, such as their width, for each place where they stand. It is worked out
+/// anew when other texts stand there. Whoever writes a text makes it another one, since a copy of what has
+/// been seen is kept here; so no value outlives its texts, whoever has changed them.
+///
+/// Gemerktes is the copy: a QString, or something made of a record, with a function NochDieselben(Gemerktes,
+/// record) that says whether they are still the same text objects.
+template <class Gemerktes, class Wert>
 class Textmerker {
   public:
-    /// The value of the text that stands at this place; Rechnen(Text) gives it where it is not known.
-    template <class Rechnung>
-    const Wert& operator()(std::size_t Platz, const QString& Text, const Rechnung& Rechnen) {
+    /// The value for what stands at this place; Rechnen(Jetzt) gives it where it is not known.
+    template <class Quelle, class Rechnung>
+    const Wert& operator()(std::size_t Platz, const Quelle& Jetzt, const Rechnung& Rechnen) {
         if (Platz >= Eintraege.size())
             Eintraege.resize(Platz + 1);
         Eintrag& Einer = Eintraege[Platz];
-        if (!Einer.Bekannt || !DerselbeText(Einer.Text, Text))
-            Einer = {Text, Rechnen(Text), true};
+        if (!Einer.Bekannt || !NochDieselben(Einer.Texte, Jetzt))
+            Einer = {Gemerktes(Jetzt), Rechnen(Jetzt), true};
         return Einer.Ergebnis;
     }
     /// For when the values hang on something else that has changed, such as the font.
@@ -31,7 +34,7 @@ class Textmerker {
 
   private:
     struct Eintrag {
-        QString Text;
+        Gemerktes Texte;
         Wert Ergebnis{};
         bool Bekannt = false;
     };

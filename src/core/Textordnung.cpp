@@ -1,11 +1,13 @@
 #include "core/Textordnung.h"
 
+#include "core/Textmerker.h"
 #include "core/Zahlen.h"
 
 #include <QCollator>
 #include <QHash>
 
 #include <algorithm>
+#include <deque>
 #include <memory>
 
 namespace {
@@ -75,28 +77,77 @@ class Textraenge {
     std::vector<std::unique_ptr<Bekannter>> Reihenfolge;
 };
 
-/// The ranks kept from call to call; they begin anew in another locale, and before they grow without end.
-Textraenge& AktuelleRaenge() {
-    constexpr std::size_t Gedaechtnis = 40000; // several times the texts of a column of the longest list
-    static std::unique_ptr<Textraenge> Raenge;
-    if (!Raenge || Raenge->InSprache() != SystemSprache() || Raenge->Anzahl() > Gedaechtnis)
-        Raenge = std::make_unique<Textraenge>(SystemSprache());
-    return *Raenge;
-}
-
-} // namespace
-
-std::vector<int> Textfolge(const std::vector<QString>& Texte) {
-    Textraenge& Raenge = AktuelleRaenge();
-    const std::vector<int> Rang = Raenge(Texte);
-    // Ranks are small numbers: counting how many come before each puts all into place in one pass.
-    std::vector<int> Beginn(Raenge.Anzahl() + 1);
+/// Ranks are small numbers: counting how many come before each puts all into place in one pass.
+std::vector<int> NachRang(const std::vector<int>& Rang, std::size_t AnzahlRaenge) {
+    std::vector<int> Beginn(AnzahlRaenge + 1);
     for (const int Einer : Rang)
         ++Beginn[static_cast<std::size_t>(Einer) + 1];
     for (std::size_t i = 1; i < Beginn.size(); ++i)
         Beginn[i] += Beginn[i - 1];
-    std::vector<int> Folge(Texte.size());
+    std::vector<int> Folge(Rang.size());
     for (std::size_t i = 0; i < Rang.size(); ++i)
         Folge[static_cast<std::size_t>(Beginn[static_cast<std::size_t>(Rang[i])]++)] = static_cast<int>(i);
     return Folge;
+}
+
+/// A list that has been put in order.
+struct Geordnete {
+    std::vector<QString> Texte;
+    std::vector<int> Folge;
+};
+
+/// All that is kept from call to call under one locale.
+class Gedaechtnis {
+  public:
+    explicit Gedaechtnis(const QLocale& Sprache)
+        : Raenge(Sprache) {}
+
+    bool Gilt() const {
+        constexpr std::size_t Genug = 40000; // several times the texts of a column of the longest list
+        return Raenge.InSprache() == SystemSprache() && Raenge.Anzahl() <= Genug;
+    }
+
+    std::vector<int> Folge(std::size_t Anzahl, const std::function<const QString&(std::size_t)>& Text) {
+        for (const Geordnete& Eine : Listen)
+            if (Eine.Texte.size() == Anzahl && Stehen(Eine.Texte, Text))
+                return Eine.Folge;
+        std::vector<QString> Texte;
+        Texte.reserve(Anzahl);
+        for (std::size_t i = 0; i < Anzahl; ++i)
+            Texte.push_back(Text(i));
+        const std::vector<int> Rang = Raenge(Texte);
+        std::vector<int> Neue = NachRang(Rang, Raenge.Anzahl());
+        if (Anzahl >= LangeListe)
+            Merken({std::move(Texte), Neue});
+        return Neue;
+    }
+
+  private:
+    static constexpr std::size_t LangeListe = 200; ///< shorter ones are in order in no time
+    static constexpr std::size_t AnzahlListen = 4;
+
+    static bool Stehen(const std::vector<QString>& Texte,
+                       const std::function<const QString&(std::size_t)>& Text) {
+        for (std::size_t i = 0; i < Texte.size(); ++i)
+            if (!NochDieselben(Texte[i], Text(i)))
+                return false;
+        return true;
+    }
+    void Merken(Geordnete&& Neue) {
+        if (Listen.size() == AnzahlListen)
+            Listen.pop_back();
+        Listen.push_front(std::move(Neue));
+    }
+
+    Textraenge Raenge;
+    std::deque<Geordnete> Listen; ///< the last long ones
+};
+
+} // namespace
+
+std::vector<int> Textfolge(std::size_t Anzahl, const std::function<const QString&(std::size_t)>& Text) {
+    static std::unique_ptr<Gedaechtnis> Bisheriges;
+    if (!Bisheriges || !Bisheriges->Gilt())
+        Bisheriges = std::make_unique<Gedaechtnis>(SystemSprache());
+    return Bisheriges->Folge(Anzahl, Text);
 }

@@ -2,9 +2,12 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
-/// The order in which lists show texts: by the locale's collation, case ignored, equal ones as they stood.
-/// Entry i is the place in Texte of what comes i-th. Each text is compared with others only the first time it
-/// is met; its rank is kept, so that a long list of known texts costs one look-up each.
-std::vector<int> Textfolge(const std::vector<QString>& Texte);
+/// The order in which lists show Anzahl texts: by the locale's collation, case ignored, equal ones as they
+/// stood. Entry i is the number of the text that comes i-th; Text gives the text of a number from 0 on.
+///
+/// What has been compared once is kept: each text has its rank, and a long list of the same text objects as
+/// one of the last ones has its order.
+std::vector<int> Textfolge(std::size_t Anzahl, const std::function<const QString&(std::size_t)>& Text);

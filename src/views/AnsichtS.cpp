@@ -129,8 +129,10 @@ void AnsichtS::SchuelerlisteFuellen() {
     Liste = std::make_shared<Schuelerliste>(MitKlasse ? SchuelerlisteDerKlasse(cbSKlasse->currentText())
                                                       : Schuelerliste());
     KopfFuellen();
+    const std::vector<double> Breiten = Spaltenbreiten(); // while the rows stand in record order
     ZeilenFuellen();
-    SpaltenAnpassen(0, tblSSchueler->Cols() - 1);
+    for (int Spalte = 0; Spalte < tblSSchueler->Cols(); ++Spalte)
+        SpalteAnpassen(Spalte, Breiten);
     tblSSchueler->setCell(1, SortSpalteS);
     EingabezaehlerLeeren();
     tblSSchueler->setUpdatesEnabled(true);
@@ -176,16 +178,17 @@ void AnsichtS::AnsichtSAktiv(bool Aktiv) {
     Q_EMIT ImportErlaubt(Aktiv);
 }
 
-/// The title and all rows count, seen or not.
-void AnsichtS::SpaltenAnpassen(int Von, int Bis) {
+std::vector<double> AnsichtS::Spaltenbreiten() {
     Mass.SchriftSetzen(window()->font());
-    const std::vector<double> Breiteste = Mass.Breiteste(*Liste, Von, Bis);
-    for (int Spalte = Von; Spalte <= Bis; ++Spalte) {
-        const double Breite = qMax(Mass.Breite(tblSSchueler->TextMatrix(1, Spalte)),
-                                   Breiteste[static_cast<std::size_t>(Spalte - Von)]);
-        const double Twips = qMin(Gitter::PixelInTwips(Breite), GroessteTextbreite) + Zellrand;
-        tblSSchueler->setColWidth(Spalte, Gitter::TwipsInPixel(Twips));
-    }
+    return Mass.Breiteste(*Liste);
+}
+
+/// The title and all rows count, seen or not.
+void AnsichtS::SpalteAnpassen(int Spalte, const std::vector<double>& Breiten) {
+    const double Breite =
+        qMax(Mass.Breite(tblSSchueler->TextMatrix(1, Spalte)), Breiten[static_cast<std::size_t>(Spalte)]);
+    const double Twips = qMin(Gitter::PixelInTwips(Breite), GroessteTextbreite) + Zellrand;
+    tblSSchueler->setColWidth(Spalte, Gitter::TwipsInPixel(Twips));
 }
 
 /// By the column of the header that was clicked, what is equal there as it stood.

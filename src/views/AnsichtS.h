@@ -38,7 +38,8 @@ class AnsichtS : public Ansicht {
     void KopfFuellen();
     void ZeilenFuellen();
     void AnsichtSAktiv(bool Aktiv);
-    void SpaltenAnpassen(int Von, int Bis);
+    std::vector<double> Spaltenbreiten(); ///< of the widest text of each column, in pixels
+    void SpalteAnpassen(int Spalte, const std::vector<double>& Breiten);
     void Sortieren();
 
     // The current cell.

@@ -113,7 +113,9 @@ bool AnsichtS::cSchuelerliste_Validate() {
         } else if (ZelleSchreiben(Text)) {
             tblSSchueler->setTextMatrix(tblSSchueler->Row(), tblSSchueler->Col(), Text);
         }
-        SpaltenAnpassen(tblSSchueler->Col(), tblSSchueler->Col());
+        if (InFachspalte())
+            TeilnahmenErneuern(*Liste);
+        SpalteAnpassen(tblSSchueler->Col(), Spaltenbreiten());
     });
 }
 

@@ -128,7 +128,8 @@ void Notenliste::ZeilenSchreiben() {
     Daten.reserve(Zeilen.size());
     for (const Notenlistenzeile& Eine : Zeilen)
         Daten.push_back(Art.Datum(Eine));
-    Quelle = std::make_shared<Notenzeilenquelle>(std::move(Zeilen), AktuelleGesamtregeln());
+    Quelle = std::make_shared<Notenzeilenquelle>(
+        std::move(Zeilen), Art.NachNamen() ? SchuelernameDer : FachnameDer, AktuelleGesamtregeln());
     Tabelle->ZeilenSetzen(Daten, [Von = Quelle](int Nummer) { return Von->Zellen(Nummer); });
     Tabelle->setCell(ErsteZeile, Notenspalte::Name);
     HalbjahrtitelSchreiben();

@@ -2,8 +2,7 @@
 
 #include "core/FktSpeziell.h"
 #include "core/Textordnung.h"
-
-#include <QHash>
+#include "views/IDTabelle.h"
 
 #include <algorithm>
 
@@ -17,22 +16,18 @@ std::vector<Notenlistenzeile> Zeilen(const Bedingung& Passt) {
     std::vector<Notenlistenzeile> Alle;
     for (int i = 0; i < Datenbank.AnzNoten; ++i)
         if (const Notenzeile& Eine = Datenbank.Noten[i]; Passt(Eine) && Eine.Teilnahme == Ja)
-            Alle.push_back({i, Eine.Schueler_ID, Eine.Fach_ID, {}, -1});
+            Alle.push_back({i, Eine.Schueler_ID, Eine.Fach_ID, -1, -1});
     std::reverse(Alle.begin(), Alle.end());
     return Alle;
 }
 
 /// Place of the first record of each ID that is listed: one pass instead of a look-up for each row.
 template <class Satzreihe>
-QHash<qint32, int> Plaetze(const std::vector<Notenlistenzeile>& Zeilen, qint32 Notenlistenzeile::*ID,
-                           const Satzreihe& Saetze, int Anzahl) {
-    QHash<qint32, int> Alle;
-    Alle.reserve(static_cast<qsizetype>(Zeilen.size()));
-    for (const Notenlistenzeile& Zeile : Zeilen)
-        Alle.insert(Zeile.*ID, -1);
-    for (int i = 0; i < Anzahl; ++i)
-        if (const auto Gesucht = Alle.find(Saetze[i].ID); Gesucht != Alle.end() && *Gesucht < 0)
-            *Gesucht = i;
+IDTabelle Plaetze(const std::vector<Notenlistenzeile>& Zeilen, qint32 Notenlistenzeile::*ID,
+                  const Satzreihe& Saetze, int Anzahl) {
+    IDTabelle Alle = TabelleFuer(Zeilen, ID);
+    for (int i = Anzahl - 1; i >= 0; --i)
+        Alle.Setzen(Saetze[i].ID, i);
     return Alle;
 }
 
@@ -45,8 +40,7 @@ std::vector<Notenlistenzeile> NotenzeilenDesFachs(qint32 Fach_ID) {
         Plaetze(Alle, &Notenlistenzeile::Schueler_ID, Datenbank.Schueler, Datenbank.AnzSchueler);
     for (Notenlistenzeile& Zeile : Alle) {
         Zeile.FachPlatz = FachPlatz;
-        if (const int Platz = Schueler.value(Zeile.Schueler_ID); Platz >= 0)
-            Zeile.Name = Datenbank.Schueler[Platz].Name;
+        Zeile.SchuelerPlatz = Schueler[Zeile.Schueler_ID];
     }
     return Alle;
 }
@@ -54,11 +48,8 @@ std::vector<Notenlistenzeile> NotenzeilenDesFachs(qint32 Fach_ID) {
 std::vector<Notenlistenzeile> NotenzeilenDesSchuelers(qint32 Schueler_ID) {
     auto Alle = Zeilen([Schueler_ID](const Notenzeile& Eine) { return Eine.Schueler_ID == Schueler_ID; });
     const auto Faecher = Plaetze(Alle, &Notenlistenzeile::Fach_ID, Datenbank.Faecher, Datenbank.AnzFaecher);
-    for (Notenlistenzeile& Zeile : Alle) {
-        Zeile.FachPlatz = Faecher.value(Zeile.Fach_ID);
-        if (Zeile.FachPlatz >= 0)
-            Zeile.Name = Datenbank.Faecher[Zeile.FachPlatz].Name;
-    }
+    for (Notenlistenzeile& Zeile : Alle)
+        Zeile.FachPlatz = Faecher[Zeile.Fach_ID];
     return Alle;
 }
 
@@ -80,14 +71,27 @@ const Fach* FachDer(const Notenlistenzeile& Zeile) {
     return Platz < 0 ? nullptr : &Datenbank.Faecher[Platz];
 }
 
+const QString& FachnameDer(const Notenlistenzeile& Zeile) {
+    static const QString Leer;
+    const Fach* Eines = FachDer(Zeile);
+    return Eines ? Eines->Name : Leer;
+}
+
+const QString& SchuelernameDer(const Notenlistenzeile& Zeile) {
+    static const QString Leer;
+    if (Zeile.SchuelerPlatz < 0)
+        return Leer;
+    const bool StehtDort = Zeile.SchuelerPlatz < Datenbank.AnzSchueler &&
+                           Datenbank.Schueler[Zeile.SchuelerPlatz].ID == Zeile.Schueler_ID;
+    const int Platz = StehtDort ? Zeile.SchuelerPlatz : SchuelerIndex(Zeile.Schueler_ID);
+    return Platz < 0 ? Leer : Datenbank.Schueler[Platz].Name;
+}
+
 void NachNamenOrdnen(std::vector<Notenlistenzeile>& Zeilen) {
-    std::vector<QString> Namen;
-    Namen.reserve(Zeilen.size());
-    for (const Notenlistenzeile& Eine : Zeilen)
-        Namen.push_back(Eine.Name);
+    const auto Name = [&Zeilen](std::size_t i) -> const QString& { return SchuelernameDer(Zeilen[i]); };
     std::vector<Notenlistenzeile> Geordnet;
     Geordnet.reserve(Zeilen.size());
-    for (const int Stelle : Textfolge(Namen))
-        Geordnet.push_back(std::move(Zeilen[static_cast<std::size_t>(Stelle)]));
+    for (const int Stelle : Textfolge(Zeilen.size(), Name))
+        Geordnet.push_back(Zeilen[static_cast<std::size_t>(Stelle)]);
     Zeilen = std::move(Geordnet);
 }

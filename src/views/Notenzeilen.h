@@ -13,8 +13,8 @@ struct Notenlistenzeile {
     int Platz = 0; ///< place in Datenbank.Noten
     qint32 Schueler_ID = 0;
     qint32 Fach_ID = 0;
-    QString Name;      ///< of the student or subject listed; "" if there is no such record
-    int FachPlatz = 0; ///< place of its subject in Datenbank.Faecher, -1 if there is none
+    int SchuelerPlatz = -1; ///< place of its student in Datenbank.Schueler, -1: not looked up, or none
+    int FachPlatz = -1;     ///< place of its subject in Datenbank.Faecher, -1 if there is none
 
     bool operator==(const Notenlistenzeile&) const = default;
 };
@@ -29,5 +29,9 @@ std::vector<Notenlistenzeile> NotenzeilenDesSchuelers(qint32 Schueler_ID);
 const Notenzeile* SatzDer(const Notenlistenzeile& Zeile);
 const Fach* FachDer(const Notenlistenzeile& Zeile);
 
-/// Puts the rows in the order of their names; equal ones stay as they stand.
+/// What a row is listed under; "" if there is no such record.
+const QString& SchuelernameDer(const Notenlistenzeile& Zeile);
+const QString& FachnameDer(const Notenlistenzeile& Zeile);
+
+/// Puts the rows in the order of their students' names; equal ones stay as they stand.
 void NachNamenOrdnen(std::vector<Notenlistenzeile>& Zeilen);

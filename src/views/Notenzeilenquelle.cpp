@@ -21,15 +21,16 @@ void NotenEintragen(std::vector<Gitterzelle>& Zellen, const Notenzeile& Satz) {
 
 } // namespace
 
-Notenzeilenquelle::Notenzeilenquelle(std::vector<Notenlistenzeile> WelcheZeilen,
+Notenzeilenquelle::Notenzeilenquelle(std::vector<Notenlistenzeile> WelcheZeilen, Namensregel WelcherName,
                                      const Gesamtregeln& WelcheRegeln)
     : Zeilen(std::move(WelcheZeilen))
+    , Name(WelcherName)
     , Regeln(WelcheRegeln) {}
 
 std::vector<Gitterzelle> Notenzeilenquelle::Zellen(int Nummer) const {
     const Notenlistenzeile& Zeile = Zeilen[static_cast<std::size_t>(Nummer)];
     std::vector<Gitterzelle> Alle(Notenspalte::Anzahl);
-    Alle[Notenspalte::Name].Text = Zeile.Name;
+    Alle[Notenspalte::Name].Text = Name(Zeile);
     const Notenzeile* Satz = SatzDer(Zeile);
     if (Satz)
         NotenEintragen(Alle, *Satz);

@@ -11,7 +11,10 @@ inline constexpr QRgb NoteBerechnet = qRgb(0, 0, 0); ///< of any other
 /// is first looked at.
 class Notenzeilenquelle {
   public:
-    Notenzeilenquelle(std::vector<Notenlistenzeile> WelcheZeilen, const Gesamtregeln& WelcheRegeln);
+    using Namensregel = const QString& (*)(const Notenlistenzeile&); ///< what a row is listed under
+
+    Notenzeilenquelle(std::vector<Notenlistenzeile> WelcheZeilen, Namensregel WelcherName,
+                      const Gesamtregeln& WelcheRegeln);
 
     /// Rules of the averages in rows that are looked at from now on.
     void RegelnSetzen(const Gesamtregeln& Neue) { Regeln = Neue; }
@@ -21,5 +24,6 @@ class Notenzeilenquelle {
 
   private:
     std::vector<Notenlistenzeile> Zeilen;
+    Namensregel Name;
     Gesamtregeln Regeln;
 };

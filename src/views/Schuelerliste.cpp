@@ -5,8 +5,9 @@
 #include "core/Textordnung.h"
 #include "records/Klassenfeld.h"
 #include "views/AnsichtSSpalten.h"
+#include "views/IDTabelle.h"
 
-#include <QHash>
+#include <algorithm>
 
 namespace {
 
@@ -17,7 +18,7 @@ std::vector<Fachspalte> FachspaltenDerKlasse(const QString& Klasse) {
         if (Eines.Jahr != Datenbank.AktJahr || !FeldNenntKlasse(Eines.Klasse, Klasse))
             continue;
         const bool Zusammengelegt = KlassenDesFelds(Eines.Klasse).size() > 1;
-        Spalten.push_back({Eines.ID, Zusammengelegt ? Eines.Name + u'*' : Eines.Name});
+        Spalten.push_back({Eines.ID, Zusammengelegt ? Eines.Name + u'*' : Eines.Name, {}});
     }
     return Spalten;
 }
@@ -32,43 +33,37 @@ std::vector<Schuelerzeile> ZeilenDerKlasse(const QString& Klasse, std::size_t An
     return Zeilen;
 }
 
+/// Adds a text to those that stand in a column, each once. Nearly always it is the one seen last.
+void Vermerken(std::vector<QString>& Texte, const QString& Text) {
+    if (!Texte.empty() && Texte.back() == Text)
+        return;
+    if (const auto Bekannt = std::find(Texte.begin(), Texte.end(), Text); Bekannt != Texte.end())
+        std::iter_swap(Bekannt, Texte.end() - 1);
+    else
+        Texte.push_back(Text);
+}
+
 /// Finds the rows of grades of all students in one walk over them.
 void NotenplaetzeSuchen(Schuelerliste& Liste) {
-    QHash<qint32, std::size_t> SpalteZuFach;
+    IDTabelle SpalteZuFach = TabelleFuer(Liste.Faecher, &Fachspalte::Fach_ID);
     for (std::size_t j = Liste.Faecher.size(); j-- > 0;)
-        SpalteZuFach.insert(Liste.Faecher[j].Fach_ID, j);
-    QHash<qint32, std::size_t> BeginnZuSchueler;
-    BeginnZuSchueler.reserve(std::ssize(Liste.Zeilen));
-    for (const Schuelerzeile& Zeile : Liste.Zeilen)
-        BeginnZuSchueler.insert(Zeile.ID, Zeile.Noten);
+        SpalteZuFach.Setzen(Liste.Faecher[j].Fach_ID, static_cast<int>(j));
+    IDTabelle ZeileZuSchueler = TabelleFuer(Liste.Zeilen, &Schuelerzeile::ID);
+    for (std::size_t z = 0; z < Liste.Zeilen.size(); ++z)
+        ZeileZuSchueler.Setzen(Liste.Zeilen[z].ID, static_cast<int>(z));
 
     Liste.Notenplaetze.assign(Liste.Zeilen.size() * Liste.Faecher.size(), -1);
     // Backwards: where a pair has several rows, the first one counts.
     for (int i = Datenbank.AnzNoten - 1; i >= 0; --i) {
         const Notenzeile& Satz = Datenbank.Noten[i];
-        const auto Spalte = SpalteZuFach.constFind(Satz.Fach_ID);
-        if (Spalte == SpalteZuFach.constEnd())
+        const int Spalte = SpalteZuFach[Satz.Fach_ID];
+        const int Zeile = Spalte == IDTabelle::Keiner ? IDTabelle::Keiner : ZeileZuSchueler[Satz.Schueler_ID];
+        if (Zeile == IDTabelle::Keiner)
             continue;
-        const auto Beginn = BeginnZuSchueler.constFind(Satz.Schueler_ID);
-        if (Beginn != BeginnZuSchueler.constEnd())
-            Liste.Notenplaetze[*Beginn + *Spalte] = i;
+        const auto Fach = static_cast<std::size_t>(Spalte);
+        Liste.Notenplaetze[Liste.Zeilen[static_cast<std::size_t>(Zeile)].Noten + Fach] = i;
+        Vermerken(Liste.Faecher[Fach].Teilnahmen, Satz.Teilnahme);
     }
-}
-
-const QString& Leer() {
-    static const QString Text;
-    return Text;
-}
-
-const QString& Teilnahmetext(int Platz, qint32 Schueler_ID, qint32 Fach_ID) {
-    if (Platz < 0) // looking for what was not there would be a walk over all rows for each cell
-        return Leer();
-    const auto Passt = [&](const Notenzeile& Satz) {
-        return Satz.Schueler_ID == Schueler_ID && Satz.Fach_ID == Fach_ID;
-    };
-    if (Platz >= Datenbank.AnzNoten || !Passt(Datenbank.Noten[Platz]))
-        Platz = NotenIndex(Schueler_ID, Fach_ID);
-    return Platz < 0 ? Leer() : Datenbank.Noten[Platz].Teilnahme;
 }
 
 } // namespace
@@ -77,18 +72,46 @@ int Schuelerliste::Spalten() const {
     return 1 + Faecherzahl() + AnzFelder;
 }
 
-const QString& Schuelerliste::Text(std::size_t Zeile, int Spalte) const {
+const Schueler* Schuelerliste::Satz(std::size_t Zeile) const {
     const Schuelerzeile& Eine = Zeilen[Zeile];
-    if (Spalte >= 1 && Spalte <= Faecherzahl()) {
-        const auto Fach = static_cast<std::size_t>(Spalte - 1);
-        return Teilnahmetext(Notenplaetze[Eine.Noten + Fach], Eine.ID, Faecher[Fach].Fach_ID);
-    }
     const bool StehtDort = Eine.Platz < Datenbank.AnzSchueler && Datenbank.Schueler[Eine.Platz].ID == Eine.ID;
     const int Platz = StehtDort ? Eine.Platz : SchuelerIndex(Eine.ID);
-    if (Platz < 0)
-        return Leer();
-    const Schueler& Satz = Datenbank.Schueler[Platz];
-    return Spalte == 0 ? Satz.Name : Satz.Feld[Spalte - Faecherzahl()];
+    return Platz < 0 ? nullptr : &Datenbank.Schueler[Platz];
+}
+
+const Notenzeile* Schuelerliste::Note(std::size_t Zeile, std::size_t Fach) const {
+    const Schuelerzeile& Eine = Zeilen[Zeile];
+    const qint32 Fach_ID = Faecher[Fach].Fach_ID;
+    int Platz = Notenplaetze[Eine.Noten + Fach];
+    if (Platz < 0) // looking for what was not there would be a walk over all rows for each cell
+        return nullptr;
+    const auto Passt = [&](const Notenzeile& Eines) {
+        return Eines.Schueler_ID == Eine.ID && Eines.Fach_ID == Fach_ID;
+    };
+    if (Platz >= Datenbank.AnzNoten || !Passt(Datenbank.Noten[Platz]))
+        Platz = NotenIndex(Eine.ID, Fach_ID);
+    return Platz < 0 ? nullptr : &Datenbank.Noten[Platz];
+}
+
+const QString& Schuelerliste::Text(std::size_t Zeile, int Spalte) const {
+    static const QString Leer;
+    if (Spalte >= 1 && Spalte <= Faecherzahl()) {
+        const Notenzeile* Eine = Note(Zeile, static_cast<std::size_t>(Spalte - 1));
+        return Eine ? Eine->Teilnahme : Leer;
+    }
+    const Schueler* Einer = Satz(Zeile);
+    if (!Einer)
+        return Leer;
+    return Spalte == 0 ? Einer->Name : Einer->Feld[Spalte - Faecherzahl()];
+}
+
+void TeilnahmenErneuern(Schuelerliste& Liste) {
+    for (std::size_t j = 0; j < Liste.Faecher.size(); ++j) {
+        Liste.Faecher[j].Teilnahmen.clear();
+        for (std::size_t z = 0; z < Liste.Zeilen.size(); ++z)
+            if (const Notenzeile* Eine = Liste.Note(z, j))
+                Vermerken(Liste.Faecher[j].Teilnahmen, Eine->Teilnahme);
+    }
 }
 
 Schuelerliste SchuelerlisteDerKlasse(const QString& Klasse) {
@@ -100,13 +123,10 @@ Schuelerliste SchuelerlisteDerKlasse(const QString& Klasse) {
 }
 
 void NachSpalteOrdnen(Schuelerliste& Liste, int Spalte) {
-    std::vector<QString> Texte;
-    Texte.reserve(Liste.Zeilen.size());
-    for (std::size_t z = 0; z < Liste.Zeilen.size(); ++z)
-        Texte.push_back(Liste.Text(z, Spalte));
+    const auto Text = [&](std::size_t Zeile) -> const QString& { return Liste.Text(Zeile, Spalte); };
     std::vector<Schuelerzeile> Geordnet;
     Geordnet.reserve(Liste.Zeilen.size());
-    for (const int Stelle : Textfolge(Texte))
+    for (const int Stelle : Textfolge(Liste.Zeilen.size(), Text))
         Geordnet.push_back(Liste.Zeilen[static_cast<std::size_t>(Stelle)]);
     Liste.Zeilen = std::move(Geordnet);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "core/Definitionen.h"
 
 #include <vector>
 
@@ -11,6 +11,7 @@
 struct Fachspalte {
     qint32 Fach_ID = 0;
     QString Kopf; ///< its name, followed by "*" if it is taught to several classes together
+    std::vector<QString> Teilnahmen; ///< the texts that stand in its column, each once
 
     bool operator==(const Fachspalte&) const = default;
 };
@@ -32,12 +33,19 @@ struct Schuelerliste {
 
     int Faecherzahl() const { return static_cast<int>(Faecher.size()); }
     int Spalten() const; ///< 15 + P
-    /// What a cell shows: the text of the record, wherever it stands now; "" without a record.
+    /// The student of a row, and his row of grades in a subject, where they stand now; nullptr if there is
+    /// none.
+    const Schueler* Satz(std::size_t Zeile) const;
+    const Notenzeile* Note(std::size_t Zeile, std::size_t Fach) const;
+    /// What a cell shows: the text of its record; "" without one.
     const QString& Text(std::size_t Zeile, int Spalte) const;
 };
 
 /// The list of a class of AktJahr; empty for a class that does not exist.
 Schuelerliste SchuelerlisteDerKlasse(const QString& Klasse);
+
+/// Looks up anew which texts stand in the columns of the subjects, after one has been changed.
+void TeilnahmenErneuern(Schuelerliste& Liste);
 
 /// Puts the rows in the order of the texts of a column; equal ones stay as they stand.
 void NachSpalteOrdnen(Schuelerliste& Liste, int Spalte);

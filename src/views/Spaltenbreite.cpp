@@ -1,7 +1,8 @@
 #include "views/Spaltenbreite.h"
 
-#include "views/AnsichtSSpalten.h"
 #include "views/Schuelerliste.h"
+
+#include <algorithm>
 
 Zeichenmass::Zeichenmass(const QFont& Schrift)
     : Mass(Schrift) {
@@ -30,28 +31,42 @@ void Spaltenmass::SchriftSetzen(const QFont& Schrift) {
     Gemessene = Schrift;
     Zeichen = Zeichenmass(Schrift);
     AnSchuelern.Vergessen();
-    AnNoten.Vergessen();
 }
 
-double Spaltenmass::Zellenbreite(const Schuelerliste& Liste, std::size_t Zeile, int Spalte) {
-    const Schuelerzeile& Eine = Liste.Zeilen[Zeile];
-    const auto Messen = [this](const QString& Text) { return Zeichen.Breite(Text); };
-    const QString& Text = Liste.Text(Zeile, Spalte);
-    const int P = Liste.Faecherzahl();
-    if (Spalte >= 1 && Spalte <= P) {
-        const int Platz = Liste.Notenplaetze[Eine.Noten + static_cast<std::size_t>(Spalte - 1)];
-        return Platz < 0 ? Messen(Text) : AnNoten(static_cast<std::size_t>(Platz), Text, Messen);
+bool NochDieselben(const Schuelertexte& Gemerkte, const Schueler& Satz) {
+    const auto Derselbe = [](const QString& Eines, const QString& Anderes) {
+        return NochDieselben(Eines, Anderes);
+    };
+    return Derselbe(Gemerkte.Name, Satz.Name) &&
+           std::equal(Gemerkte.Feld.begin(), Gemerkte.Feld.end(), Satz.Feld.begin(), Derselbe);
+}
+
+Spaltenmass::Schuelerbreiten Spaltenmass::Messen(const Schueler& Satz) {
+    Schuelerbreiten Breiten{Zeichen.Breite(Satz.Name)};
+    for (int k = 1; k <= AnzFelder; ++k)
+        Breiten[static_cast<std::size_t>(k)] = Zeichen.Breite(Satz.Feld[k]);
+    return Breiten;
+}
+
+std::vector<double> Spaltenmass::Breiteste(const Schuelerliste& Liste) {
+    const std::size_t P = Liste.Faecher.size();
+    std::vector<double> Breiten(static_cast<std::size_t>(Liste.Spalten()));
+    const auto Groesser = [&Breiten](std::size_t Spalte, double Neue) {
+        Breiten[Spalte] = std::max(Breiten[Spalte], Neue);
+    };
+    for (std::size_t j = 0; j < P; ++j)
+        for (const QString& Text : Liste.Faecher[j].Teilnahmen)
+            Groesser(1 + j, Zeichen.Breite(Text));
+    const auto Zeilenmass = [this](const Schueler& Satz) { return Messen(Satz); };
+    for (std::size_t z = 0; z < Liste.Zeilen.size(); ++z) {
+        const Schueler* Satz = Liste.Satz(z);
+        if (!Satz)
+            continue;
+        const Schuelerbreiten& Seine =
+            AnSchuelern(static_cast<std::size_t>(Liste.Zeilen[z].Platz), *Satz, Zeilenmass);
+        Groesser(0, Seine[0]);
+        for (std::size_t k = 1; k < Seine.size(); ++k)
+            Groesser(P + k, Seine[k]);
     }
-    const int Feld = Spalte == 0 ? 0 : Spalte - P;
-    return AnSchuelern(static_cast<std::size_t>(Eine.Platz * (1 + AnzFelder) + Feld), Text, Messen);
-}
-
-std::vector<double> Spaltenmass::Breiteste(const Schuelerliste& Liste, int Von, int Bis) {
-    std::vector<double> Breiten(static_cast<std::size_t>(Bis - Von + 1));
-    for (std::size_t z = 0; z < Liste.Zeilen.size(); ++z)
-        for (int s = Von; s <= Bis; ++s) {
-            double& Bisher = Breiten[static_cast<std::size_t>(s - Von)];
-            Bisher = qMax(Bisher, Zellenbreite(Liste, z, s));
-        }
     return Breiten;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "core/Definitionen.h"
 #include "core/Textmerker.h"
+#include "views/AnsichtSSpalten.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -28,21 +30,32 @@ class Zeichenmass {
     std::unordered_map<char16_t, double> Andere;
 };
 
-/// Width of the widest text in the columns of a class list, of all its rows. A text is measured again only
-/// when its record has been written.
+/// The texts of a student that view S shows, as they once stood in his record.
+struct Schuelertexte {
+    QString Name;
+    Reihe<QString, 1 + AnzFelder> Feld;
+
+    Schuelertexte() = default;
+    explicit Schuelertexte(const Schueler& Satz)
+        : Name(Satz.Name)
+        , Feld(Satz.Feld) {}
+};
+bool NochDieselben(const Schuelertexte& Gemerkte, const Schueler& Satz);
+
+/// Width of the widest text in each column of a class list, of all its rows. Texts are measured again only
+/// when their record has been written.
 class Spaltenmass {
   public:
     /// Font of the widths from now on.
     void SchriftSetzen(const QFont& Schrift);
     double Breite(const QString& Text) { return Zeichen.Breite(Text); }
-    /// In pixels, of the columns Von..Bis.
-    std::vector<double> Breiteste(const Schuelerliste& Liste, int Von, int Bis);
+    std::vector<double> Breiteste(const Schuelerliste& Liste); ///< of all columns, in pixels
 
   private:
-    double Zellenbreite(const Schuelerliste& Liste, std::size_t Zeile, int Spalte);
+    using Schuelerbreiten = std::array<double, 1 + AnzFelder>; ///< of the name and of the fields 1..14
+    Schuelerbreiten Messen(const Schueler& Satz);
 
     QFont Gemessene;
     Zeichenmass Zeichen{Gemessene};
-    Textmerker<double> AnSchuelern; ///< by place of the student, name and fields
-    Textmerker<double> AnNoten;     ///< by place of the row of grades
+    Textmerker<Schuelertexte, Schuelerbreiten> AnSchuelern; ///< by place of the student
 };
