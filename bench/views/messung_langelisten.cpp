@@ -24,7 +24,7 @@ constexpr QSize Fenstergroesse(1280, 700);
 constexpr int Lang = 5000;
 constexpr int Kurz = 35;
 
-const QString LangeKlasse = QStringLiteral("7a");        ///< whose list is measured
+const QString LangeKlasse = QStringLiteral("7a");   ///< whose list is measured
 const QString AndereKlasse = QStringLiteral("7b");  ///< the rest of the students
 const QString KleineKlasse = QStringLiteral("7c");  ///< a single student; chosen before
 const qint32& FachL = Datenbank.Faecher[0].ID;      ///< whose list is measured
@@ -210,8 +210,9 @@ void SchuelernotenMessen() {
                return Eines.Waehlen("cbN2Name", QStringLiteral("Zuse Zoe"), QStringLiteral("Aal Adam"));
            }));
     AktSchuelerID = 0;
-    Melden(Name + QStringLiteral(", class of 5000 names against 35: class chosen"),
-           LangGegenKurz(KlasseSetzen, [&] { return Eines.Waehlen("cbN2Klasse", KleineKlasse, LangeKlasse); }));
+    Melden(
+        Name + QStringLiteral(", class of 5000 names against 35: class chosen"),
+        LangGegenKurz(KlasseSetzen, [&] { return Eines.Waehlen("cbN2Klasse", KleineKlasse, LangeKlasse); }));
 }
 
 template <class Art>
@@ -220,8 +221,9 @@ void KlasseMessen(const QString& Name, const char* Klassenfeld) {
     TeilnahmeSetzen();
     BetretenMessen<Art>(Name, KlasseSetzen);
     Reiterfenster<Art> Eines;
-    Melden(Name + QStringLiteral(", 5000 rows against 35: class chosen"),
-           LangGegenKurz(KlasseSetzen, [&] { return Eines.Waehlen(Klassenfeld, KleineKlasse, LangeKlasse); }));
+    Melden(Name + QStringLiteral(", 5000 rows against 35: class chosen"), LangGegenKurz(KlasseSetzen, [&] {
+               return Eines.Waehlen(Klassenfeld, KleineKlasse, LangeKlasse);
+           }));
     WachstumMessen<Art>(Name, KlasseSetzen);
 }
 
@@ -233,15 +235,6 @@ int main(int argc, char** argv) {
     const QApplication Programm(argc, argv);
     SystemSpracheSetzen(QLocale(QLocale::German, QLocale::Germany));
     FormularBereit = true;
-    if (argc > 1) {
-        BuchFuellen(); TeilnahmeSetzen(); KlasseSetzen(atoi(argv[2]));
-        const auto Lauf = [&](auto& F, const char* N) { double Summe = 0; for (int i = 0; i < 300; ++i) Summe += F.Waehlen(N, KleineKlasse, LangeKlasse); qInfo("%f ms", Summe / 300 * 1e3); };
-        if (argv[1][0] == 'S') { Reiterfenster<AnsichtS> E; Lauf(E, "cbSKlasse"); }
-        if (argv[1][0] == 'B') { Reiterfenster<AnsichtB> E; Lauf(E, "cbBKlasse"); }
-        if (argv[1][0] == '2') { Reiterfenster<AnsichtN2> E; Lauf(E, "cbN2Klasse"); }
-        if (argv[1][0] == '1') { FachlisteSetzen(atoi(argv[2])); Reiterfenster<AnsichtN1> E; double Summe = 0; for (int i = 0; i < 300; ++i) Summe += E.Waehlen("cbN1KlasseFach", QStringLiteral("7a Fach 3"), QStringLiteral("7a Fach 1")); qInfo("%f ms", Summe / 300 * 1e3); }
-        return 0;
-    }
     FachlisteMessen();
     SchuelernotenMessen();
     KlasseMessen<AnsichtS>(QStringLiteral("view S"), "cbSKlasse");

@@ -7,6 +7,7 @@
 #include "core/Textordnung.h"
 
 #include <QHeaderView>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <numeric>
@@ -159,7 +160,7 @@ void Gitter::setWordWrapCells(bool Umbrechen) {
     viewport()->update();
 }
 
-/// A reset makes the hidden headers forget the sizes; they are set again.
+/// A reset makes the hidden headers forget the sizes; they are as before when anybody hears of it.
 void Gitter::RumpfAendern(const std::function<void()>& Aendern) {
     QList<int> Breiten;
     QList<int> Hoehen;
@@ -167,11 +168,15 @@ void Gitter::RumpfAendern(const std::function<void()>& Aendern) {
         Breiten.append(ColWidth(s));
     for (int z = 0; z < qMin(FixedRows(), Rows()); ++z)
         Hoehen.append(RowHeight(z));
-    GroesseAendern(Aendern);
-    for (int s = 0; s < Breiten.size(); ++s)
-        setColumnWidth(s, Breiten[s]);
-    for (int z = 0; z < Hoehen.size(); ++z)
-        setRowHeight(z, Hoehen[z]);
+    GroesseAendern([&] {
+        Aendern();
+        const QSignalBlocker StilleSpalten(horizontalHeader());
+        const QSignalBlocker StilleZeilen(verticalHeader());
+        for (int s = 0; s < Breiten.size(); ++s)
+            setColumnWidth(s, Breiten[s]);
+        for (int z = 0; z < Hoehen.size(); ++z)
+            setRowHeight(z, Hoehen[z]);
+    });
     updateGeometries();
 }
 

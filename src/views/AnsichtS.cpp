@@ -161,11 +161,8 @@ void AnsichtS::ZeilenFuellen() {
     if (SortSpalteS >= tblSSchueler->Cols())
         SortSpalteS = 0;
     NachSpalteOrdnen(*Liste, SortSpalteS);
-    std::vector<qint32> IDs;
-    IDs.reserve(Liste->Zeilen.size());
-    for (const Schuelerzeile& Eine : Liste->Zeilen)
-        IDs.push_back(Eine.ID);
-    tblSSchueler->ZeilenSetzen(IDs, [Von = Liste](int Nummer) { return Schuelerzellen(*Von, Nummer); });
+    tblSSchueler->ZeilenSetzen(Zeilendaten(*Liste),
+                               [Von = Liste](int Nummer) { return Schuelerzellen(*Von, Nummer); });
     for (int Spalte = 0; Spalte < tblSSchueler->Cols(); ++Spalte)
         tblSSchueler->setCellBackColor(tblSSchueler->Rows() - 1, Spalte,
                                        QColor(Spaltenfarbe(Spalte, AnzTeilnahmeSpalten)));

@@ -122,6 +122,20 @@ Schuelerliste SchuelerlisteDerKlasse(const QString& Klasse) {
     return Liste;
 }
 
+Schuelerliste SchuelerDerKlasse(const QString& Klasse) {
+    Schuelerliste Liste;
+    Liste.Zeilen = ZeilenDerKlasse(Klasse, 0);
+    return Liste;
+}
+
+std::vector<qint32> Zeilendaten(const Schuelerliste& Liste) {
+    std::vector<qint32> IDs;
+    IDs.reserve(Liste.Zeilen.size());
+    for (const Schuelerzeile& Eine : Liste.Zeilen)
+        IDs.push_back(Eine.ID);
+    return IDs;
+}
+
 void NachSpalteOrdnen(Schuelerliste& Liste, int Spalte) {
     const auto Text = [&](std::size_t Zeile) -> const QString& { return Liste.Text(Zeile, Spalte); };
     std::vector<Schuelerzeile> Geordnet;

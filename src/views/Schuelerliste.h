@@ -4,7 +4,7 @@
 
 #include <vector>
 
-// What view S lists of a class, from the records. Columns: 0 the name, 1..P the subjects, then the 14 free
+// What is listed of a class, from the records. Columns: 0 the name, 1..P the subjects, then the 14 free
 // fields.
 
 /// A subject the class takes part in.
@@ -43,6 +43,12 @@ struct Schuelerliste {
 
 /// The list of a class of AktJahr; empty for a class that does not exist.
 Schuelerliste SchuelerlisteDerKlasse(const QString& Klasse);
+
+/// The same without subjects: names and fields alone.
+Schuelerliste SchuelerDerKlasse(const QString& Klasse);
+
+/// The IDs of the rows, for the hidden row data of a grid.
+std::vector<qint32> Zeilendaten(const Schuelerliste& Liste);
 
 /// Looks up anew which texts stand in the columns of the subjects, after one has been changed.
 void TeilnahmenErneuern(Schuelerliste& Liste);
