@@ -10,6 +10,7 @@
 #include "core/Uhr.h"
 #include "records/Satzdialoge.h"
 #include "views/Fuellsperre.h"
+#include "views/Schuelerliste.h"
 
 #include "ui_AnsichtB.h"
 
@@ -32,15 +33,11 @@ QStringList Zeitraeume() {
     return Alle;
 }
 
-/// The rows of a class, each put on top of those before.
-std::vector<Gitterzeile> Beurteilungszeilen(const QString& Klasse, int Zeitraum) {
-    std::vector<Gitterzeile> Zeilen;
-    for (int i = Datenbank.AnzSchueler - 1; i >= 0; --i) {
-        const Schueler& Einer = Datenbank.Schueler[i];
-        if (Einer.Jahr == Datenbank.AktJahr && Einer.Klasse == Klasse)
-            Zeilen.push_back({Einer.ID, {{Einer.Name, 0, Namensgrund}, {Einer.Beurteilung[Zeitraum]}}});
-    }
-    return Zeilen;
+std::vector<Gitterzelle> Beurteilungszellen(const Schuelerliste& Liste, int Zeile, int Zeitraum) {
+    const Schueler* Einer = Liste.Satz(static_cast<std::size_t>(Zeile));
+    if (!Einer)
+        return {{QString(), 0, Namensgrund}};
+    return {{Einer->Name, 0, Namensgrund}, {Einer->Beurteilung[Zeitraum]}};
 }
 
 } // namespace
@@ -89,7 +86,7 @@ void AnsichtB::SchuelerseiteEinrichten() {
     Tabelle->setColShares({0.28, 0.72});
     Tabelle->setColAlignment(1, Qt::AlignLeft | Qt::AlignTop);
     Tabelle->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // or the width would change with the heights
-    HoehenFolgenDerBreite(*Tabelle, 1);
+    HoehenFolgenDerBreite(*Tabelle, 1, [this] { BeurteilungshoehenAnpassen(); });
     connect(Tabelle, &Gitter::ZelleBetreten, this, [this] { Ausfuehren([this] { SchuelerBetreten(); }); });
 
     txtBEingabe->setObjectName(QStringLiteral("txtBEingabe"));
@@ -163,19 +160,19 @@ void AnsichtB::Fuellen() {
 }
 
 void AnsichtB::KlassenFuellen() {
-    Kombinationsfeld& Liste = *Form->cbBKlasse;
-    Liste.Leeren();
+    Kombinationsfeld& Klassen = *Form->cbBKlasse;
+    Klassen.Leeren();
     int Index = 0;
     for (int i = 0; i < Datenbank.AnzKlassen; ++i)
         if (Datenbank.Klassen[i].Jahr == Datenbank.AktJahr) {
-            const int Eintrag = Liste.Hinzufuegen(Datenbank.Klassen[i].Name);
+            const int Eintrag = Klassen.Hinzufuegen(Datenbank.Klassen[i].Name);
             if (Datenbank.Klassen[i].Name == AktKlasse)
                 Index = Eintrag;
         }
-    if (Liste.count() == 0 || Liste.ListIndex() == Index)
+    if (Klassen.count() == 0 || Klassen.ListIndex() == Index)
         BeurteilungenFuellen();
     else
-        Liste.setListIndex(Index);
+        Klassen.setListIndex(Index);
 }
 
 void AnsichtB::KlasseGewaehlt() {
@@ -192,18 +189,22 @@ void AnsichtB::BeurteilungenFuellen() {
     Tabelle.setUpdatesEnabled(false);
     const bool MitKlasse = Form->cbBKlasse->ListIndex() >= 0;
     Tabelle.setEnabled(MitKlasse);
-    Tabelle.ZeilenSetzen({});
-    if (MitKlasse) {
+    Liste = std::make_shared<Schuelerliste>(MitKlasse ? SchuelerDerKlasse(Form->cbBKlasse->currentText())
+                                                      : Schuelerliste());
+    if (!MitKlasse) {
+        Tabelle.ZeilenSetzen({});
+    } else {
         Tabelle.setTextMatrix(0, 0, QStringLiteral("Schüler"));
         Tabelle.setTextMatrix(0, 1, QStringLiteral("Beurteilung"));
-        Tabelle.ZeilenSetzen(
-            Beurteilungszeilen(Form->cbBKlasse->currentText(), Form->cbBHalbjahr->ListIndex()));
+        NachSpalteOrdnen(*Liste, 0);
+        Tabelle.ZeilenSetzen(Zeilendaten(*Liste),
+                             [Von = Liste, Zeitraum = Form->cbBHalbjahr->ListIndex()](int Nummer) {
+                                 return Beurteilungszellen(*Von, Nummer, Zeitraum);
+                             });
         Tabelle.setCellBackColor(Tabelle.Rows() - 1, 0, QColor(Namensgrund));
-        if (Tabelle.Rows() >= 4)
-            Tabelle.Sortieren(0, 1, Tabelle.Rows() - 2, Sortierart::TextAufsteigend);
         Tabelle.setCell(1, 0);
     }
-    ZeilenhoehenAnpassen(Tabelle, 1);
+    BeurteilungshoehenAnpassen();
     Tabelle.setUpdatesEnabled(true);
 }
 
@@ -311,30 +312,51 @@ void AnsichtB::changeEvent(QEvent* Ereignis) {
     if (Ereignis->type() != QEvent::FontChange)
         return;
     Mass = Schriftmass(font());
-    ZeilenhoehenAnpassen(*Form->tblBeurteilungen, 1);
+    GemesseneBreite = -1;
+    BeurteilungshoehenAnpassen();
     ZeilenhoehenAnpassen(*Form->tblBFloskel, 0);
 }
 
-int AnsichtB::Zeilenhoehe(const Gitter& Tabelle, int Zeile, int Spalte) const {
+int AnsichtB::Zeilenhoehe(const Gitter& Tabelle, const QString& Text, int Spalte) const {
     const double Breite = Gitter::PixelInTwips(Tabelle.ColWidth(Spalte));
-    return Gitter::TwipsInPixel(ZeilenhoeheBerechnen(Mass, Tabelle.TextMatrix(Zeile, Spalte), Breite));
+    return Gitter::TwipsInPixel(ZeilenhoeheBerechnen(Mass, Text, Breite));
 }
 
 void AnsichtB::ZeilenhoeheAnpassen(Gitter& Tabelle, int Zeile, int Spalte) {
-    Tabelle.setRowHeight(Zeile, Zeilenhoehe(Tabelle, Zeile, Spalte));
+    Tabelle.setRowHeight(Zeile, Zeilenhoehe(Tabelle, Tabelle.TextMatrix(Zeile, Spalte), Spalte));
 }
 
 void AnsichtB::ZeilenhoehenAnpassen(Gitter& Tabelle, int Spalte) {
     std::vector<int> Hoehen;
     Hoehen.reserve(static_cast<std::size_t>(Tabelle.Rows()));
     for (int Zeile = 0; Zeile < Tabelle.Rows(); ++Zeile)
-        Hoehen.push_back(Zeilenhoehe(Tabelle, Zeile, Spalte));
+        Hoehen.push_back(Zeilenhoehe(Tabelle, Tabelle.TextMatrix(Zeile, Spalte), Spalte));
     Tabelle.setRowHeights(0, Hoehen);
 }
 
-void AnsichtB::HoehenFolgenDerBreite(Gitter& Tabelle, int Spalte) {
-    connect(&Tabelle, &Gitter::LageGeaendert, this, [this, &Tabelle, Spalte, Breite = -1]() mutable {
+/// The heights of all rows, seen or not. An assessment is measured again only when it has been written.
+void AnsichtB::BeurteilungshoehenAnpassen() {
+    Gitter& Tabelle = *Form->tblBeurteilungen;
+    if (std::exchange(GemesseneBreite, Tabelle.ColWidth(1)) != Tabelle.ColWidth(1))
+        Beurteilungshoehen.Vergessen();
+    const auto Hoehe = [this, &Tabelle](const QString& Text) { return Zeilenhoehe(Tabelle, Text, 1); };
+    const int Zeitraum = Form->cbBHalbjahr->ListIndex();
+    std::vector<int> Hoehen{Hoehe(Tabelle.TextMatrix(0, 1))};
+    Hoehen.reserve(static_cast<std::size_t>(Tabelle.Rows()));
+    for (std::size_t z = 0; z < Liste->Zeilen.size(); ++z) {
+        const Schueler* Einer = Liste->Satz(z);
+        const auto Platz = static_cast<std::size_t>(
+            Liste->Zeilen[z].Platz * decltype(Schueler::Beurteilung)::size() + Zeitraum);
+        Hoehen.push_back(Einer ? Beurteilungshoehen(Platz, Einer->Beurteilung[Zeitraum], Hoehe) : Hoehe({}));
+    }
+    Hoehen.push_back(Hoehe({}));
+    Tabelle.setRowHeights(0, Hoehen);
+}
+
+void AnsichtB::HoehenFolgenDerBreite(const Gitter& Tabelle, int Spalte,
+                                     const std::function<void()>& Anpassen) {
+    connect(&Tabelle, &Gitter::LageGeaendert, this, [&Tabelle, Spalte, Anpassen, Breite = -1]() mutable {
         if (std::exchange(Breite, Tabelle.ColWidth(Spalte)) != Tabelle.ColWidth(Spalte))
-            ZeilenhoehenAnpassen(Tabelle, Spalte);
+            Anpassen();
     });
 }

@@ -5,9 +5,12 @@
 #include "controls/Ansicht.h"
 #include "controls/Gitter.h"
 #include "core/Definitionen.h"
+#include "core/Textmerker.h"
+#include "views/Schuelerliste.h"
 
 #include <QTime>
 
+#include <functional>
 #include <memory>
 
 class EingabeText;
@@ -99,17 +102,21 @@ class AnsichtB : public Ansicht {
     int SchuelerzeileBei(int Y) const;
     void Hinweis(const QString& Text) { Q_EMIT HinweisGewuenscht(Text); }
 
-    int Zeilenhoehe(const Gitter& Tabelle, int Zeile, int Spalte) const; ///< in pixels
+    int Zeilenhoehe(const Gitter& Tabelle, const QString& Text, int Spalte) const; ///< in pixels
     void ZeilenhoehenAnpassen(Gitter& Tabelle, int Spalte);
-    void HoehenFolgenDerBreite(Gitter& Tabelle, int Spalte);
     void ZeilenhoeheAnpassen(Gitter& Tabelle, int Zeile, int Spalte);
+    void BeurteilungshoehenAnpassen();
+    void HoehenFolgenDerBreite(const Gitter& Tabelle, int Spalte, const std::function<void()>& Anpassen);
 
     std::unique_ptr<Ui::AnsichtB> Form;
     EingabeText* txtBEingabe;
     EingabeText* txtBEingabe2;
     Schriftmass Mass;
-    int LetzteFloskelZeile = -1; ///< row of the last plain click in tblBFloskel; -1 for none
-    QTime LetzterFloskelKlick;   ///< moment of that click
-    bool Loeschtaste = false;    ///< went down on tblBFloskel
+    std::shared_ptr<Schuelerliste> Liste = std::make_shared<Schuelerliste>(); ///< shared with the grid
+    Textmerker<QString, int> Beurteilungshoehen; ///< in pixels, by place of the student and period
+    int GemesseneBreite = -1;                    ///< of the column, that they hold for
+    int LetzteFloskelZeile = -1;                 ///< row of the last plain click in tblBFloskel; -1 for none
+    QTime LetzterFloskelKlick;                   ///< moment of that click
+    bool Loeschtaste = false;                    ///< went down on tblBFloskel
     bool Ablegend = false; ///< the text of txtBEingabe2 is being stored: its leaving does not store it again
 };

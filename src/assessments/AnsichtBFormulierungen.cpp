@@ -32,7 +32,7 @@ void AnsichtB::FloskelseiteEinrichten() {
     Formulierungstabelle* Tabelle = Form->tblBFloskel;
     Tabelle->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     Tabelle->installEventFilter(this);
-    HoehenFolgenDerBreite(*Tabelle, 0);
+    HoehenFolgenDerBreite(*Tabelle, 0, [this, Tabelle] { ZeilenhoehenAnpassen(*Tabelle, 0); });
     const auto Melden = [this, Tabelle](auto Signal, void (AnsichtB::*Antwort)()) {
         connect(Tabelle, Signal, this,
                 [this, Antwort] { Ausfuehren([this, Antwort] { (this->*Antwort)(); }); });

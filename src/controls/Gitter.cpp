@@ -4,10 +4,10 @@
 #include "controls/Gittermodell.h"
 #include "core/FktAllgemein.h"
 #include "core/Reihe.h"
-#include "core/Zahlen.h"
+#include "core/Textordnung.h"
 
-#include <QCollator>
 #include <QHeaderView>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <numeric>
@@ -160,20 +160,36 @@ void Gitter::setWordWrapCells(bool Umbrechen) {
     viewport()->update();
 }
 
-void Gitter::ZeilenSetzen(std::vector<Gitterzeile> Zeilen) {
+/// A reset makes the hidden headers forget the sizes; they are as before when anybody hears of it.
+void Gitter::RumpfAendern(const std::function<void()>& Aendern) {
     QList<int> Breiten;
     QList<int> Hoehen;
     for (int s = 0; s < Cols(); ++s)
         Breiten.append(ColWidth(s));
     for (int z = 0; z < qMin(FixedRows(), Rows()); ++z)
         Hoehen.append(RowHeight(z));
-    GroesseAendern([this, &Zeilen] { Modell->RumpfSetzen(std::move(Zeilen)); });
-    // The reset makes the hidden headers forget the sizes.
-    for (int s = 0; s < Breiten.size(); ++s)
-        setColumnWidth(s, Breiten[s]);
-    for (int z = 0; z < Hoehen.size(); ++z)
-        setRowHeight(z, Hoehen[z]);
+    GroesseAendern([&] {
+        Aendern();
+        const QSignalBlocker StilleSpalten(horizontalHeader());
+        const QSignalBlocker StilleZeilen(verticalHeader());
+        for (int s = 0; s < Breiten.size(); ++s)
+            setColumnWidth(s, Breiten[s]);
+        for (int z = 0; z < Hoehen.size(); ++z)
+            setRowHeight(z, Hoehen[z]);
+    });
     updateGeometries();
+}
+
+void Gitter::ZeilenSetzen(std::vector<Gitterzeile> Zeilen) {
+    RumpfAendern([this, &Zeilen] { Modell->RumpfSetzen(std::move(Zeilen)); });
+}
+
+void Gitter::ZeilenSetzen(const std::vector<qint32>& Daten, Zeilenquelle Quelle) {
+    RumpfAendern([this, &Daten, &Quelle] { Modell->RumpfSetzen(Daten, std::move(Quelle)); });
+}
+
+bool Gitter::ZeileSteht(int Zeile) const {
+    return Modell->Gefragt(Zeile);
 }
 
 void Gitter::setRow(int Zeile) {
@@ -203,27 +219,18 @@ void Gitter::Wiederbetreten() {
 }
 
 std::vector<int> Gitter::Sortierfolge(int Spalte, int Von, int Bis, Sortierart Art) const {
-    std::vector<int> Folge(static_cast<std::size_t>(Bis - Von + 1));
-    std::iota(Folge.begin(), Folge.end(), 0);
-    const auto Sortieren = [&Folge](const auto& Kleiner) {
-        std::stable_sort(Folge.begin(), Folge.end(), [&Kleiner](int Links, int Rechts) {
-            return Kleiner(static_cast<std::size_t>(Links), static_cast<std::size_t>(Rechts));
-        });
-    };
-    if (Art == Sortierart::ZahlAbsteigend) {
-        std::vector<float> Zahlen;
-        for (int z = Von; z <= Bis; ++z)
-            Zahlen.push_back(ZahlAusText(TextMatrix(z, Spalte)));
-        Sortieren(
-            [&Zahlen](std::size_t Links, std::size_t Rechts) { return Zahlen[Links] > Zahlen[Rechts]; });
-        return Folge;
-    }
-    QCollator Ordnung(SystemSprache());
-    Ordnung.setCaseSensitivity(Qt::CaseInsensitive);
-    std::vector<QCollatorSortKey> Texte;
+    std::vector<QString> Texte;
     for (int z = Von; z <= Bis; ++z)
-        Texte.push_back(Ordnung.sortKey(TextMatrix(z, Spalte)));
-    Sortieren([&Texte](std::size_t Links, std::size_t Rechts) { return Texte[Links] < Texte[Rechts]; });
+        Texte.push_back(TextMatrix(z, Spalte));
+    if (Art == Sortierart::TextAufsteigend)
+        return Textfolge(Texte.size(), [&Texte](std::size_t i) -> const QString& { return Texte[i]; });
+    std::vector<float> Zahlen(Texte.size());
+    std::transform(Texte.begin(), Texte.end(), Zahlen.begin(), ZahlAusText);
+    std::vector<int> Folge(Texte.size());
+    std::iota(Folge.begin(), Folge.end(), 0);
+    std::stable_sort(Folge.begin(), Folge.end(), [&Zahlen](int Links, int Rechts) {
+        return Zahlen[static_cast<std::size_t>(Links)] > Zahlen[static_cast<std::size_t>(Rechts)];
+    });
     return Folge;
 }
 

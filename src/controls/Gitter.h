@@ -24,6 +24,10 @@ struct Gitterzeile {
     std::vector<Gitterzelle> Zellen;
 };
 
+/// Gives the cells of a row when it is first looked at; Nummer counts the rows as they were handed over, from
+/// 0. Missing cells are empty. It says what the row shows at that moment, and throws nothing.
+using Zeilenquelle = std::function<std::vector<Gitterzelle>(int Nummer)>;
+
 /// How a range of rows is sorted; always stable.
 enum class Sortierart { TextAufsteigend, ZahlAbsteigend };
 
@@ -94,6 +98,11 @@ class Gitter : public QTableView {
     /// Replaces all rows from FixedRows on by these, followed by one empty entry row, in one reset. Current
     /// cell: kept if it still exists; no ZelleBetreten.
     void ZeilenSetzen(std::vector<Gitterzeile> Zeilen);
+    /// The same with one row for each datum, whose cells the source gives when they are first looked at: a
+    /// list of thousands costs what is seen of it.
+    void ZeilenSetzen(const std::vector<qint32>& Daten, Zeilenquelle Quelle);
+    /// True once the cells of a row stand in the grid; false while its source has yet to be asked for them.
+    bool ZeileSteht(int Zeile) const;
 
     // Current cell. Setting a row or column that is not yet the current one emits ZelleBetreten, like a key
     // or the mouse; a fixed cell may be made current too. Values outside the grid are ignored.
@@ -184,6 +193,7 @@ class Gitter : public QTableView {
     static std::optional<CursorAction> Bewegung(const QKeyEvent& Taste);
     bool Weiter(bool Vorwaerts); ///< Tab: false at the end of the grid
     void GroesseAendern(const std::function<void()>& Aendern);
+    void RumpfAendern(const std::function<void()>& Aendern);
     std::vector<int> Sortierfolge(int Spalte, int Von, int Bis, Sortierart Art) const;
 
     Gittermodell* Modell;

@@ -138,8 +138,10 @@ void Gitter::setRowHeight(int Zeile, int Hoehe) {
 void Gitter::setRowHeights(int Erste, const std::vector<int>& Hoehen) {
     {
         const QSignalBlocker Still(verticalHeader());
+        verticalHeader()->setUpdatesEnabled(false); // or each row would ask where all those above it lie
         for (std::size_t i = 0; i < Hoehen.size(); ++i)
             setRowHeight(Erste + static_cast<int>(i), Hoehen[i]);
+        verticalHeader()->setUpdatesEnabled(true);
     }
     updateGeometries();
     viewport()->update();
@@ -155,18 +157,25 @@ void Gitter::setColShares(const QList<double>& Neue, int NeueMindestbreite) {
     updateGeometries();
 }
 
-/// The last column takes what rounding leaves, so that the sum is the width available.
+/// The last column takes what rounding leaves, so that the sum is the width available. Who hears of a change
+/// finds all columns as they will be.
 void Gitter::AnteileAnwenden() {
     const int Breite = qMax(viewport()->width(), Mindestbreite);
     double Summe = 0;
     int Vergeben = 0;
-    for (int s = 0; s < qMin(static_cast<int>(Anteile.size()), Cols()); ++s) {
-        Summe += Anteile[s];
-        const int Ende = static_cast<int>(Summe * Breite + 1e-6);
-        if (columnWidth(s) != Ende - Vergeben)
+    bool Geaendert = false;
+    {
+        const QSignalBlocker Still(horizontalHeader());
+        for (int s = 0; s < qMin(static_cast<int>(Anteile.size()), Cols()); ++s) {
+            Summe += Anteile[s];
+            const int Ende = static_cast<int>(Summe * Breite + 1e-6);
+            Geaendert = Geaendert || columnWidth(s) != Ende - Vergeben;
             setColumnWidth(s, Ende - Vergeben);
-        Vergeben = Ende;
+            Vergeben = Ende;
+        }
     }
+    if (Geaendert)
+        LageMelden();
 }
 
 void Gitter::LageMelden() {

@@ -73,13 +73,45 @@ bool Gittermodell::Enthaelt(int Zeile, int Spalte) const {
     return Zeile >= 0 && Zeile < Zeilen() && Spalte >= 0 && Spalte < Spalten();
 }
 
+bool Gittermodell::Gefragt(int Zeile) const {
+    return Zeile >= 0 && Zeile < Zeilen() && Alle[static_cast<std::size_t>(Zeile)].Nummer == Gegeben;
+}
+
+const Gittermodell::Modellzeile& Gittermodell::Geholt(int Zeile) const {
+    Modellzeile& Eine = Alle[static_cast<std::size_t>(Zeile)];
+    if (Eine.Nummer != Gegeben) {
+        Eine.Zellen = Quelle(Eine.Nummer);
+        Eine.Zellen.resize(Spaltendaten.size());
+        Eine.Nummer = Gegeben;
+    }
+    return Eine;
+}
+
 const Gitterzelle& Gittermodell::Zelle(int Zeile, int Spalte) const {
     static const Gitterzelle Leer;
-    return Enthaelt(Zeile, Spalte) ? Zellen[Platz(Zeile, Spalte)] : Leer;
+    if (!Enthaelt(Zeile, Spalte))
+        return Leer;
+    const Modellzeile& Eine = Geholt(Zeile);
+    return Eine.Zellen.empty() ? Leer : Eine.Zellen[static_cast<std::size_t>(Spalte)];
+}
+
+Gitterzelle& Gittermodell::Schreibzelle(int Zeile, int Spalte) {
+    IndexPruefen(Zeile, Zeilen());
+    IndexPruefen(Spalte, Spalten());
+    Geholt(Zeile);
+    std::vector<Gitterzelle>& Zellen = Alle[static_cast<std::size_t>(Zeile)].Zellen;
+    Zellen.resize(Spaltendaten.size());
+    return Zellen[static_cast<std::size_t>(Spalte)];
+}
+
+void Gittermodell::BreiteVergessen(int Zeile, int Spalte) {
+    std::vector<int>& Breiten = Alle[static_cast<std::size_t>(Zeile)].Breiten;
+    if (!Breiten.empty())
+        Breiten[static_cast<std::size_t>(Spalte)] = -1;
 }
 
 int Gittermodell::Zeilendatum(int Zeile) const {
-    return Zeile >= 0 && Zeile < Zeilen() ? Zeilendaten[static_cast<std::size_t>(Zeile)] : 0;
+    return Zeile >= 0 && Zeile < Zeilen() ? Alle[static_cast<std::size_t>(Zeile)].Datum : 0;
 }
 
 int Gittermodell::Spaltendatum(int Spalte) const {
@@ -92,21 +124,16 @@ Qt::Alignment Gittermodell::Ausrichtung(int Spalte) const {
 }
 
 void Gittermodell::TextbreitenVergessen() {
-    std::fill(Breiten.begin(), Breiten.end(), -1);
-}
-
-std::size_t Gittermodell::Geprueft(int Zeile, int Spalte) const {
-    IndexPruefen(Zeile, Zeilen());
-    IndexPruefen(Spalte, Spalten());
-    return Platz(Zeile, Spalte);
+    for (Modellzeile& Eine : Alle)
+        Eine.Breiten.clear();
 }
 
 void Gittermodell::TextSetzen(int Zeile, int Spalte, const QString& Text) {
-    const std::size_t Ziel = Geprueft(Zeile, Spalte);
-    if (Zellen[Ziel].Text == Text)
+    Gitterzelle& Ziel = Schreibzelle(Zeile, Spalte);
+    if (Ziel.Text == Text)
         return;
-    Zellen[Ziel].Text = Text;
-    Breiten[Ziel] = -1;
+    Ziel.Text = Text;
+    BreiteVergessen(Zeile, Spalte);
     const QModelIndex Stelle = index(Zeile, Spalte);
     Q_EMIT dataChanged(Stelle, Stelle, {Qt::DisplayRole});
     if (Zeile < AnzFesteZeilen)
@@ -114,7 +141,7 @@ void Gittermodell::TextSetzen(int Zeile, int Spalte, const QString& Text) {
 }
 
 void Gittermodell::FarbenSetzen(int Zeile, int Spalte, QRgb Vordergrund, QRgb Hintergrund) {
-    Gitterzelle& Ziel = Zellen[Geprueft(Zeile, Spalte)];
+    Gitterzelle& Ziel = Schreibzelle(Zeile, Spalte);
     if (Ziel.Vordergrund == Vordergrund && Ziel.Hintergrund == Hintergrund)
         return;
     Ziel.Vordergrund = Vordergrund;
@@ -133,7 +160,7 @@ QString Gittermodell::Bedeutung(int Zeile, int Spalte) const {
 
 void Gittermodell::ZeilendatumSetzen(int Zeile, int Datum) {
     IndexPruefen(Zeile, Zeilen());
-    Zeilendaten[static_cast<std::size_t>(Zeile)] = Datum;
+    Alle[static_cast<std::size_t>(Zeile)].Datum = Datum;
 }
 
 void Gittermodell::SpaltendatumSetzen(int Spalte, int Datum) {
@@ -165,9 +192,7 @@ void Gittermodell::ZeilenanzahlSetzen(int Anzahl) {
         beginInsertRows({}, Bisher, Anzahl - 1);
     else
         beginRemoveRows({}, Anzahl, Bisher - 1);
-    Zeilendaten.resize(static_cast<std::size_t>(Anzahl));
-    Zellen.resize(Platz(Anzahl, 0));
-    Breiten.resize(Zellen.size(), -1);
+    Alle.resize(static_cast<std::size_t>(Anzahl));
     if (Anzahl > Bisher)
         endInsertRows();
     else
@@ -184,13 +209,10 @@ void Gittermodell::SpaltenanzahlSetzen(int Anzahl) {
         beginInsertColumns({}, Bisher, Anzahl - 1);
     else
         beginRemoveColumns({}, Anzahl, Bisher - 1);
-    std::vector<Gitterzelle> Neue(Zeilendaten.size() * static_cast<std::size_t>(Anzahl));
-    for (int z = 0; z < Zeilen(); ++z)
-        for (int s = 0; s < qMin(Bisher, Anzahl); ++s)
-            Neue[static_cast<std::size_t>(z) * static_cast<std::size_t>(Anzahl) +
-                 static_cast<std::size_t>(s)] = std::move(Zellen[Platz(z, s)]);
-    Zellen = std::move(Neue);
-    Breiten.assign(Zellen.size(), -1);
+    for (Modellzeile& Eine : Alle) {
+        Eine.Zellen.resize(Eine.Zellen.empty() ? 0 : static_cast<std::size_t>(Anzahl));
+        Eine.Breiten.clear();
+    }
     Spaltendaten.resize(static_cast<std::size_t>(Anzahl));
     if (Anzahl > Bisher)
         endInsertColumns();
@@ -207,40 +229,45 @@ void Gittermodell::FestSetzen(int FesteZeilen, int FesteSpalten) {
         Q_EMIT headerDataChanged(Qt::Vertical, 0, Zeilen() - 1);
 }
 
-void Gittermodell::ZeileUebernehmen(std::size_t Ziel, Gitterzeile&& Zeile) {
-    Zeilendaten[Ziel] = Zeile.Datum;
-    const std::size_t Anzahl = qMin(Zeile.Zellen.size(), Spaltendaten.size());
-    std::move(Zeile.Zellen.begin(), Zeile.Zellen.begin() + static_cast<std::ptrdiff_t>(Anzahl),
-              Zellen.begin() + static_cast<std::ptrdiff_t>(Ziel * Spaltendaten.size()));
+void Gittermodell::RumpfErsetzen(std::vector<Modellzeile> Neue, Zeilenquelle NeueQuelle) {
+    beginResetModel();
+    const std::size_t Fest = qMin(static_cast<std::size_t>(AnzFesteZeilen), Alle.size());
+    for (std::size_t z = 0; z < Fest; ++z)
+        Neue[z] = std::move(Alle[z]);
+    Alle = std::move(Neue);
+    Quelle = std::move(NeueQuelle);
+    endResetModel();
 }
 
 void Gittermodell::RumpfSetzen(std::vector<Gitterzeile> Neue) {
-    beginResetModel();
-    const std::size_t Fest = qMin(static_cast<std::size_t>(AnzFesteZeilen), Zeilendaten.size());
-    Zeilendaten.resize(Fest);
-    Zellen.resize(Fest * Spaltendaten.size());
-    Zeilendaten.resize(Fest + Neue.size() + 1);
-    Zellen.resize(Zeilendaten.size() * Spaltendaten.size());
-    for (std::size_t z = 0; z < Neue.size(); ++z)
-        ZeileUebernehmen(Fest + z, std::move(Neue[z]));
-    Breiten.assign(Zellen.size(), -1);
-    endResetModel();
+    const std::size_t Fest = qMin(static_cast<std::size_t>(AnzFesteZeilen), Alle.size());
+    std::vector<Modellzeile> Rumpf(Fest + Neue.size() + 1);
+    for (std::size_t z = 0; z < Neue.size(); ++z) {
+        Neue[z].Zellen.resize(Spaltendaten.size());
+        Rumpf[Fest + z].Datum = Neue[z].Datum;
+        Rumpf[Fest + z].Zellen = std::move(Neue[z].Zellen);
+    }
+    RumpfErsetzen(std::move(Rumpf), {});
+}
+
+void Gittermodell::RumpfSetzen(const std::vector<qint32>& Daten, Zeilenquelle NeueQuelle) {
+    const std::size_t Fest = qMin(static_cast<std::size_t>(AnzFesteZeilen), Alle.size());
+    std::vector<Modellzeile> Rumpf(Fest + Daten.size() + 1);
+    for (std::size_t z = 0; z < Daten.size(); ++z) {
+        Rumpf[Fest + z].Datum = Daten[z];
+        Rumpf[Fest + z].Nummer = static_cast<int>(z);
+    }
+    RumpfErsetzen(std::move(Rumpf), std::move(NeueQuelle));
 }
 
 void Gittermodell::Umordnen(int Von, const std::vector<int>& Reihenfolge) {
     if (Reihenfolge.empty())
         return;
-    const std::vector<Gitterzelle> AlteZellen = Zellen;
-    const std::vector<int> AlteBreiten = Breiten;
-    const std::vector<qint32> AlteDaten = Zeilendaten;
-    for (int i = 0; i < static_cast<int>(Reihenfolge.size()); ++i) {
-        const int Quelle = Von + Reihenfolge[static_cast<std::size_t>(i)];
-        Zeilendaten[static_cast<std::size_t>(Von + i)] = AlteDaten[static_cast<std::size_t>(Quelle)];
-        for (int s = 0; s < Spalten(); ++s) {
-            Zellen[Platz(Von + i, s)] = AlteZellen[Platz(Quelle, s)];
-            Breiten[Platz(Von + i, s)] = AlteBreiten[Platz(Quelle, s)];
-        }
-    }
+    const auto Erste = Alle.begin() + Von;
+    std::vector<Modellzeile> Bisher(std::make_move_iterator(Erste),
+                                    std::make_move_iterator(Erste + std::ssize(Reihenfolge)));
+    for (std::size_t i = 0; i < Reihenfolge.size(); ++i)
+        Erste[static_cast<std::ptrdiff_t>(i)] = std::move(Bisher[static_cast<std::size_t>(Reihenfolge[i])]);
     const int Bis = Von + static_cast<int>(Reihenfolge.size()) - 1;
     Q_EMIT dataChanged(index(Von, 0), index(Bis, Spalten() - 1));
     Q_EMIT headerDataChanged(Qt::Vertical, Von, Bis);

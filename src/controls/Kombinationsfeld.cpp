@@ -2,6 +2,7 @@
 
 #include "controls/Fokuswaechter.h"
 #include "controls/Textfeld.h"
+#include "core/Textordnung.h"
 #include "core/Zahlen.h"
 
 #include <QAbstractItemView>
@@ -10,8 +11,12 @@
 #include <QScopedValueRollback>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 Kombinationsfeld::Kombinationsfeld(QWidget* Eltern)
-    : QComboBox(Eltern) {
+    : QComboBox(Eltern)
+    , Liste(new Eintragsmodell(this)) {
+    setModel(Liste);
     setInsertPolicy(NoInsert);
     setFocusPolicy(Qt::StrongFocus); // the wheel gives no focus
     auto* Waechter = new Fokuswaechter(this);
@@ -46,6 +51,32 @@ void Kombinationsfeld::Leeren() {
     clear();
     if (isEditable())
         clearEditText();
+}
+
+std::vector<Listeneintrag> Kombinationsfeld::Geordnet(std::vector<Listeneintrag> Eintraege) const {
+    if (!Sortiert)
+        return Eintraege;
+    const auto Text = [&Eintraege](std::size_t i) -> const QString& { return Eintraege[i].Text; };
+    std::vector<Listeneintrag> Neue;
+    Neue.reserve(Eintraege.size());
+    for (const int Stelle : Textfolge(Eintraege.size(), Text))
+        Neue.push_back(std::move(Eintraege[static_cast<std::size_t>(Stelle)]));
+    return Neue;
+}
+
+void Kombinationsfeld::Fuellen(std::vector<Listeneintrag> Eintraege) {
+    const QScopedValueRollback<bool> Ruhe(Still, true);
+    Liste->Ersetzen(Geordnet(std::move(Eintraege)));
+    // Qt selects the first entry by itself.
+    setCurrentIndex(-1);
+    if (isEditable())
+        clearEditText();
+}
+
+int Kombinationsfeld::IndexMitDatum(int Gesuchtes) const {
+    const auto Mit = [Gesuchtes](const Listeneintrag& Einer) { return Einer.Datum == Gesuchtes; };
+    const auto& Alle = Liste->Alle();
+    return static_cast<int>(std::distance(std::find_if(Alle.rbegin(), Alle.rend(), Mit), Alle.rend())) - 1;
 }
 
 int Kombinationsfeld::Platz(const QString& Text) const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/Eintragsmodell.h"
+
 #include <QComboBox>
 
 /// The combo boxes of the program. The editable ones differ from Qt's: typed text has index -1 until it is
@@ -20,8 +22,12 @@ class Kombinationsfeld : public QComboBox {
     void Leeren();                   ///< no entries, no text, no Klick
     /// Adds an entry with its hidden datum; returns its index. Never selects and never emits Klick.
     int Hinzufuegen(const QString& Text, int Datum = 0);
-    int Datum(int Index) const; ///< 0 if there is none
-    int AktDatum() const;       ///< datum of the selected entry, 0 without selection
+    /// These entries in place of all there were; otherwise as Leeren and Hinzufuegen of each, and quick for
+    /// thousands.
+    void Fuellen(std::vector<Listeneintrag> Eintraege);
+    int IndexMitDatum(int Datum) const; ///< the last entry with this datum, -1 if there is none
+    int Datum(int Index) const;         ///< 0 if there is none
+    int AktDatum() const;               ///< datum of the selected entry, 0 without selection
     /// Selects; emits Klick if the index changes to an entry. -1: no selection, the text stays.
     void setListIndex(int Index);
     int ListIndex() const; ///< -1: typed text or nothing
@@ -39,6 +45,7 @@ class Kombinationsfeld : public QComboBox {
     void wheelEvent(QWheelEvent* Ereignis) override;
 
   private:
+    std::vector<Listeneintrag> Geordnet(std::vector<Listeneintrag> Eintraege) const;
     int Platz(const QString& Text) const;
     void AuswahlLoesen();
     void TextGewechselt(const QString& Text);
@@ -46,6 +53,7 @@ class Kombinationsfeld : public QComboBox {
     void VomBenutzerGewaehlt();
     void VerlassenPruefen();
 
+    Eintragsmodell* Liste;
     bool Sortiert = false;
     bool Still = false;         ///< a fill is no Klick
     bool SchonGemeldet = false; ///< the index has changed since the list was opened

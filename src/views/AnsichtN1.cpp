@@ -53,21 +53,18 @@ void AnsichtN1::Fuellen() {
 
 void AnsichtN1::FachKombinationFuellen() {
     Kombinationsfeld& Faecher = *Form->cbN1KlasseFach;
-    Faecher.Leeren();
+    std::vector<Listeneintrag> Eintraege;
     for (int i = 0; i < Datenbank.AnzFaecher; ++i)
         if (const Fach& Eines = Datenbank.Faecher[i]; Eines.Jahr == Datenbank.AktJahr)
-            Faecher.Hinzufuegen(Eines.Klasse + QLatin1Char(' ') + Eines.Name, Eines.ID);
+            Eintraege.push_back({Eines.Klasse + QLatin1Char(' ') + Eines.Name, Eines.ID});
+    Faecher.Fuellen(std::move(Eintraege));
     const bool Vorhanden = Faecher.count() > 0;
     Form->btN1FachLoeschen->setEnabled(Vorhanden);
     if (!Vorhanden) {
         NotenlisteFachFuellen();
         return;
     }
-    int Index = 0;
-    for (int i = 0; i < Faecher.count(); ++i)
-        if (Faecher.Datum(i) == AktFachID)
-            Index = i;
-    Faecher.setListIndex(Index);
+    Faecher.setListIndex(qMax(0, Faecher.IndexMitDatum(AktFachID)));
 }
 
 void AnsichtN1::FachGewaehlt() {

@@ -93,26 +93,24 @@ void AnsichtN2::KlasseGewaehlt() {
 
 void AnsichtN2::NamenlisteFuellen() {
     Kombinationsfeld& Namen = *Form->cbN2Name;
-    Namen.Leeren();
     if (Form->cbN2Klasse->ListIndex() < 0) {
+        Namen.Leeren();
         NotenlisteSchuelerFuellen();
         return;
     }
     const QString Klasse = Form->cbN2Klasse->currentText();
+    std::vector<Listeneintrag> Eintraege;
     for (int i = 0; i < Datenbank.AnzSchueler; ++i)
         if (const Schueler& Einer = Datenbank.Schueler[i];
             Einer.Klasse == Klasse && Einer.Jahr == Datenbank.AktJahr)
-            Namen.Hinzufuegen(Einer.Name, Einer.ID);
+            Eintraege.push_back({Einer.Name, Einer.ID});
+    Namen.Fuellen(std::move(Eintraege));
     Form->btN2SchuelerLoeschen->setEnabled(Namen.count() > 0);
     if (Namen.count() == 0) {
         NotenlisteSchuelerFuellen();
         return;
     }
-    int Index = 0;
-    for (int i = 0; i < Namen.count(); ++i)
-        if (Namen.Datum(i) == AktSchuelerID)
-            Index = i;
-    Namen.setListIndex(Index);
+    Namen.setListIndex(qMax(0, Namen.IndexMitDatum(AktSchuelerID)));
 }
 
 void AnsichtN2::NameGewaehlt() {

@@ -30,6 +30,7 @@ class AnsichtN2 : public Ansicht, private Listenart {
     bool Gewaehlt() const override;
     int Stufe() const override;
     std::vector<Notenlistenzeile> Zeilen() const override;
+    qint32 Datum(const Notenlistenzeile& Zeile) const override { return Zeile.Fach_ID; }
     qint32 SchuelerID(qint32 Datum) const override;
     qint32 FachID(qint32 Datum) const override { return Datum; }
     bool NamenAendern(qint32 Datum, const QString& Name) override;

@@ -11,8 +11,6 @@
 #include "records/Satzdialoge.h"
 #include "views/AnsichtSSpalten.h"
 #include "views/Fuellsperre.h"
-#include "views/Schuelerliste.h"
-#include "views/Spaltenbreite.h"
 
 #include "ui_AnsichtS.h"
 
@@ -27,6 +25,21 @@ constexpr double Zellrand = 150;            // twips
 
 const QString HinweisKlasse = QStringLiteral(
     "Zur Aufnahme einer neuen Klasse hier die Klassenbezeichnung eingeben und Return drücken!");
+
+QRgb Spaltenfarbe(int Spalte, int AnzTeilnahmeSpalten) {
+    if (Spalte == 0)
+        return FarbeName;
+    return Spalte <= AnzTeilnahmeSpalten ? FarbeTeilnahme : FarbeFeld;
+}
+
+std::vector<Gitterzelle> Schuelerzellen(const Schuelerliste& Liste, int Zeile) {
+    std::vector<Gitterzelle> Zellen;
+    Zellen.reserve(static_cast<std::size_t>(Liste.Spalten()));
+    for (int Spalte = 0; Spalte < Liste.Spalten(); ++Spalte)
+        Zellen.push_back({Liste.Text(static_cast<std::size_t>(Zeile), Spalte), 0,
+                          Spaltenfarbe(Spalte, Liste.Faecherzahl())});
+    return Zellen;
+}
 
 } // namespace
 
@@ -108,28 +121,30 @@ void AnsichtS::KlasseGewaehlt() {
 
 void AnsichtS::SchuelerlisteFuellen() {
     const bool MitKlasse = cbSKlasse->ListIndex() >= 0;
-    const Schuelerliste Liste =
-        MitKlasse ? SchuelerlisteDerKlasse(cbSKlasse->currentText()) : Schuelerliste();
     const Fuellsperre Sperre;
     txtSEingabe->Verbergen();
     Form->btSFachLoeschen->setEnabled(false);
     Form->btSSchuelerLoeschen->setEnabled(false);
     AnsichtSAktiv(MitKlasse);
     tblSSchueler->setUpdatesEnabled(false);
-    KopfFuellen(Liste);
-    ZeilenFuellen(Liste);
-    SpaltenAnpassen();
-    Sortieren();
+    Liste = std::make_shared<Schuelerliste>(MitKlasse ? SchuelerlisteDerKlasse(cbSKlasse->currentText())
+                                                      : Schuelerliste());
+    KopfFuellen();
+    const std::vector<double> Breiten = Spaltenbreiten(); // while the rows stand in record order
+    ZeilenFuellen();
+    for (int Spalte = 0; Spalte < tblSSchueler->Cols(); ++Spalte)
+        SpalteAnpassen(Spalte, Breiten);
+    tblSSchueler->setCell(1, SortSpalteS);
     EingabezaehlerLeeren();
     tblSSchueler->setUpdatesEnabled(true);
 }
 
-void AnsichtS::KopfFuellen(const Schuelerliste& Liste) {
-    AnzTeilnahmeSpalten = static_cast<int>(Liste.Faecher.size());
+void AnsichtS::KopfFuellen() {
+    AnzTeilnahmeSpalten = Liste->Faecherzahl();
     const int P = AnzTeilnahmeSpalten;
     tblSSchueler->setCols(1 + P + AnzFelder);
     for (int j = 1; j <= P; ++j) {
-        const Fachspalte& Spalte = Liste.Faecher[static_cast<std::size_t>(j - 1)];
+        const Fachspalte& Spalte = Liste->Faecher[static_cast<std::size_t>(j - 1)];
         tblSSchueler->setTextMatrix(0, j, QStringLiteral("Teilnahme"));
         tblSSchueler->setTextMatrix(1, j, Spalte.Kopf);
         tblSSchueler->setColData(j, Spalte.Fach_ID);
@@ -141,27 +156,16 @@ void AnsichtS::KopfFuellen(const Schuelerliste& Liste) {
     }
 }
 
-void AnsichtS::ZeilenFuellen(const Schuelerliste& Liste) {
-    std::vector<Gitterzeile> Zeilen;
-    Zeilen.reserve(Liste.Zeilen.size());
-    for (const Schuelerzeile& Eine : Liste.Zeilen) {
-        const Schueler& Satz = Datenbank.Schueler[Eine.Platz];
-        Gitterzeile Zeile{Satz.ID, {{Satz.Name, 0, FarbeName}}};
-        Zeile.Zellen.reserve(1 + Eine.Teilnahme.size() + AnzFelder);
-        for (const QString& Teilnahme : Eine.Teilnahme)
-            Zeile.Zellen.push_back({Teilnahme, 0, FarbeTeilnahme});
-        for (int k = 1; k <= AnzFelder; ++k)
-            Zeile.Zellen.push_back({Satz.Feld[k], 0, FarbeFeld});
-        Zeilen.push_back(std::move(Zeile));
-    }
-    tblSSchueler->ZeilenSetzen(std::move(Zeilen));
-
-    const int Eingabezeile = tblSSchueler->Rows() - 1;
+void AnsichtS::ZeilenFuellen() {
+    // A class with fewer subjects may not have the column that the last one was sorted by.
+    if (SortSpalteS >= tblSSchueler->Cols())
+        SortSpalteS = 0;
+    NachSpalteOrdnen(*Liste, SortSpalteS);
+    tblSSchueler->ZeilenSetzen(Zeilendaten(*Liste),
+                               [Von = Liste](int Nummer) { return Schuelerzellen(*Von, Nummer); });
     for (int Spalte = 0; Spalte < tblSSchueler->Cols(); ++Spalte)
-        tblSSchueler->setCellBackColor(Eingabezeile, Spalte,
-                                       Spalte == 0                     ? FarbeName
-                                       : Spalte <= AnzTeilnahmeSpalten ? FarbeTeilnahme
-                                                                       : FarbeFeld);
+        tblSSchueler->setCellBackColor(tblSSchueler->Rows() - 1, Spalte,
+                                       QColor(Spaltenfarbe(Spalte, AnzTeilnahmeSpalten)));
 }
 
 void AnsichtS::AnsichtSAktiv(bool Aktiv) {
@@ -171,25 +175,22 @@ void AnsichtS::AnsichtSAktiv(bool Aktiv) {
     Q_EMIT ImportErlaubt(Aktiv);
 }
 
-void AnsichtS::SpaltenAnpassen() {
-    Zeichenmass Mass(window()->font());
-    for (int Spalte = 0; Spalte < tblSSchueler->Cols(); ++Spalte)
-        SpalteAnpassen(Spalte, Mass);
+std::vector<double> AnsichtS::Spaltenbreiten() {
+    Mass.SchriftSetzen(window()->font());
+    return Mass.Breiteste(*Liste);
 }
 
-void AnsichtS::SpalteAnpassen(int Spalte, Zeichenmass& Mass) {
-    double Breite = 0;
-    for (int Zeile = 1; Zeile <= tblSSchueler->Rows() - 2; ++Zeile)
-        Breite = qMax(Breite, Mass.Breite(tblSSchueler->TextMatrix(Zeile, Spalte)));
+/// The title and all rows count, seen or not.
+void AnsichtS::SpalteAnpassen(int Spalte, const std::vector<double>& Breiten) {
+    const double Breite =
+        qMax(Mass.Breite(tblSSchueler->TextMatrix(1, Spalte)), Breiten[static_cast<std::size_t>(Spalte)]);
     const double Twips = qMin(Gitter::PixelInTwips(Breite), GroessteTextbreite) + Zellrand;
     tblSSchueler->setColWidth(Spalte, Gitter::TwipsInPixel(Twips));
 }
 
+/// By the column of the header that was clicked, what is equal there as it stood.
 void AnsichtS::Sortieren() {
     const Fuellsperre Sperre;
-    // A class with fewer subjects may not have the column that the last one was sorted by.
-    if (SortSpalteS >= tblSSchueler->Cols())
-        SortSpalteS = 0;
     if (tblSSchueler->Rows() >= 5)
         tblSSchueler->Sortieren(SortSpalteS, 2, tblSSchueler->Rows() - 2, Sortierart::TextAufsteigend);
     tblSSchueler->setCell(1, SortSpalteS);

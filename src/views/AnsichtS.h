@@ -1,6 +1,8 @@
 #pragma once
 
 #include "controls/Ansicht.h"
+#include "views/Schuelerliste.h"
+#include "views/Spaltenbreite.h"
 
 #include <memory>
 
@@ -8,8 +10,6 @@ class EingabeFeld;
 class Gitter;
 class Kombinationsfeld;
 class QKeyEvent;
-class Zeichenmass;
-struct Schuelerliste;
 namespace Ui {
 class AnsichtS;
 }
@@ -35,11 +35,11 @@ class AnsichtS : public Ansicht {
     void KlassenlisteFuellen();
     void KlasseGewaehlt();
     void SchuelerlisteFuellen();
-    void KopfFuellen(const Schuelerliste& Liste);
-    void ZeilenFuellen(const Schuelerliste& Liste);
+    void KopfFuellen();
+    void ZeilenFuellen();
     void AnsichtSAktiv(bool Aktiv);
-    void SpaltenAnpassen();
-    void SpalteAnpassen(int Spalte, Zeichenmass& Mass);
+    std::vector<double> Spaltenbreiten(); ///< of the widest text of each column, in pixels
+    void SpalteAnpassen(int Spalte, const std::vector<double>& Breiten);
     void Sortieren();
 
     // The current cell.
@@ -76,6 +76,8 @@ class AnsichtS : public Ansicht {
     Gitter* tblSSchueler;
     Kombinationsfeld* cbSKlasse;
     EingabeFeld* txtSEingabe;
+    std::shared_ptr<Schuelerliste> Liste = std::make_shared<Schuelerliste>(); ///< shared with the grid
+    Spaltenmass Mass;
     int AnzTeilnahmeSpalten = 0; ///< P
     int SortSpalteS = 0;         ///< column by which the list is sorted
 };

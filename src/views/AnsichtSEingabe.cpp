@@ -12,7 +12,6 @@
 #include "records/Satzdialoge.h"
 #include "views/AnsichtSSpalten.h"
 #include "views/Fuellsperre.h"
-#include "views/Spaltenbreite.h"
 
 #include "ui_AnsichtS.h"
 
@@ -114,8 +113,9 @@ bool AnsichtS::cSchuelerliste_Validate() {
         } else if (ZelleSchreiben(Text)) {
             tblSSchueler->setTextMatrix(tblSSchueler->Row(), tblSSchueler->Col(), Text);
         }
-        Zeichenmass Mass(window()->font());
-        SpalteAnpassen(tblSSchueler->Col(), Mass);
+        if (InFachspalte())
+            TeilnahmenErneuern(*Liste);
+        SpalteAnpassen(tblSSchueler->Col(), Spaltenbreiten());
     });
 }
 

@@ -8,6 +8,7 @@
 #include "core/FktSpeziell.h"
 #include "grading/Gesamtnoten.h"
 #include "views/Fuellsperre.h"
+#include "views/Notenzeilenquelle.h"
 
 #include <QtMath>
 
@@ -15,8 +16,6 @@ namespace {
 
 constexpr int Halbjahrzeile = 1;
 constexpr int ErsteZeile = 2;
-constexpr QRgb VonHand = qRgb(255, 0, 0);
-constexpr QRgb Berechnet = qRgb(0, 0, 0);
 
 // Shares of the width: the name, thirty grades, and twice average and report grade.
 constexpr double AnteilNote = 0.0232;
@@ -45,11 +44,6 @@ Reihe<QString, 31> Notentexte(const Gitter& Tabelle, int Zeile) {
     return Texte;
 }
 
-bool PunkteVonHand(const Notenzeile& Zeile, int Spalte) {
-    return Spalte <= Notenspalte::LetzterTest && Zeile.P[Spalte].contains(u'-') &&
-           ZahlAusText(Zeile.P[Spalte]) < 0;
-}
-
 /// Looks up subjects row by row; the rows of one list mostly have the same.
 class Fachsuche {
   public:
@@ -64,31 +58,6 @@ class Fachsuche {
     qint32 Letzte = 0;
     int Platz = -1;
 };
-
-/// A whole row of the list with its colours, the averages included.
-Gitterzeile NeueGitterzeile(const Notenlistenzeile& Quelle, const Gesamtregeln& Regeln) {
-    const Notenzeile& Satz = Datenbank.Noten[Quelle.Platz];
-    Gitterzeile Zeile{Quelle.Datum, std::vector<Gitterzelle>(Notenspalte::Anzahl)};
-    const auto Zelle = [&Zeile](int Spalte) -> Gitterzelle& {
-        return Zeile.Zellen[static_cast<std::size_t>(Spalte)];
-    };
-    Zelle(Notenspalte::Name).Text = Quelle.Name;
-    for (int Spalte = 1; Spalte <= Notenspalte::LetzteNote; ++Spalte) {
-        Zelle(Spalte).Text = Satz.N[Spalte];
-        Zelle(Spalte).Vordergrund = PunkteVonHand(Satz, Spalte) ? VonHand : Berechnet;
-    }
-    Zelle(Notenspalte::HalbjahrZeugnis).Text = Satz.Gesamt1;
-    Zelle(Notenspalte::JahrZeugnis).Text = Satz.Gesamt2;
-    if (Quelle.FachPlatz < 0)
-        return Zeile;
-    const Halbjahresbeginn Beginn = HalbjahresbeginnVon(Datenbank.Faecher[Quelle.FachPlatz]);
-    const Durchschnitte Beide = DurchschnitteBerechnen(Satz.N, Beginn, Regeln);
-    Zelle(Notenspalte::HalbjahrDurchschnitt).Text = Beide.Halbjahr;
-    Zelle(Notenspalte::JahrDurchschnitt).Text = Beide.Jahr;
-    for (int Spalte = 0; Spalte < Notenspalte::Anzahl; ++Spalte)
-        Zelle(Spalte).Hintergrund = Notenspaltenfarbe(Spalte, Beginn);
-    return Zeile;
-}
 
 } // namespace
 
@@ -115,7 +84,7 @@ void Notenliste::GitterEinrichten() {
     Tabelle->setColShares(Spaltenanteile(), Mindestbreite(Tabelle->fontMetrics()));
     for (int Spalte = 1; Spalte < Notenspalte::Anzahl; ++Spalte)
         Tabelle->setColAlignment(Spalte, Qt::AlignCenter);
-    Tabelle->setColorMeaning(QColor(VonHand), QStringLiteral("Note von Hand gesetzt"));
+    Tabelle->setColorMeaning(QColor(NoteVonHand), QStringLiteral("Note von Hand gesetzt"));
     Tabelle->setTextMatrix(0, Notenspalte::Name, Art.Kopf());
     for (const int Spalte : {Notenspalte::HalbjahrDurchschnitt, Notenspalte::HalbjahrZeugnis})
         Tabelle->setTextMatrix(0, Spalte, QStringLiteral("Halbjahr"));
@@ -152,17 +121,32 @@ void Notenliste::TitelSchreiben() {
 }
 
 void Notenliste::ZeilenSchreiben() {
-    const Gesamtregeln Regeln = AktuelleGesamtregeln();
-    std::vector<Gitterzeile> Zeilen;
-    for (const Notenlistenzeile& Eine : Art.Zeilen())
-        Zeilen.push_back(NeueGitterzeile(Eine, Regeln));
-    Tabelle->ZeilenSetzen(std::move(Zeilen));
-    if (Art.NachNamen() && Tabelle->Rows() >= 5)
-        Tabelle->Sortieren(Notenspalte::Name, ErsteZeile, Tabelle->Rows() - 2, Sortierart::TextAufsteigend);
+    std::vector<Notenlistenzeile> Zeilen = Art.Zeilen();
+    if (Art.NachNamen())
+        NachNamenOrdnen(Zeilen);
+    std::vector<qint32> Daten;
+    Daten.reserve(Zeilen.size());
+    for (const Notenlistenzeile& Eine : Zeilen)
+        Daten.push_back(Art.Datum(Eine));
+    Quelle = std::make_shared<Notenzeilenquelle>(
+        std::move(Zeilen), Art.NachNamen() ? SchuelernameDer : FachnameDer, AktuelleGesamtregeln());
+    Tabelle->ZeilenSetzen(Daten, [Von = Quelle](int Nummer) { return Von->Zellen(Nummer); });
     Tabelle->setCell(ErsteZeile, Notenspalte::Name);
     HalbjahrtitelSchreiben();
     Tabelle->setCellBackColor(Tabelle->Rows() - 1, Notenspalte::Name,
                               Notenspaltenfarbe(Notenspalte::Name, {}));
+}
+
+/// Does this for the subject of each row that stands in the grid. The others are not looked at for it: they
+/// will come from their records as these are then.
+void Notenliste::FuerStehendeZeilen(const std::function<void(int, const Halbjahresbeginn&)>& Tun) {
+    Fachsuche Suche;
+    for (int Zeile = ErsteZeile; Zeile <= Tabelle->Rows() - 2; ++Zeile) {
+        if (!Tabelle->ZeileSteht(Zeile))
+            continue;
+        if (const Fach* Eines = Suche(Art.FachID(Tabelle->RowData(Zeile))))
+            Tun(Zeile, HalbjahresbeginnVon(*Eines));
+    }
 }
 
 /// The half-years in the header follow the first row; without one they stay as they are.
@@ -178,29 +162,21 @@ void Notenliste::HalbjahrtitelSchreiben() {
 void Notenliste::HalbjahreAnzeigen() {
     const Fuellsperre Sperre;
     HalbjahrtitelSchreiben();
-    Fachsuche Suche;
-    for (int Zeile = ErsteZeile; Zeile <= Tabelle->Rows() - 2; ++Zeile) {
-        const Fach* Eines = Suche(Art.FachID(Tabelle->RowData(Zeile)));
-        if (!Eines)
-            continue;
-        const Halbjahresbeginn Beginn = HalbjahresbeginnVon(*Eines);
+    FuerStehendeZeilen([this](int Zeile, const Halbjahresbeginn& Beginn) {
         for (int Spalte = 0; Spalte < Notenspalte::Anzahl; ++Spalte)
             Tabelle->setCellBackColor(Zeile, Spalte, Notenspaltenfarbe(Spalte, Beginn));
-    }
+    });
 }
 
 void Notenliste::GesamtnotenBerechnen() {
     const Gesamtregeln Regeln = AktuelleGesamtregeln();
-    Fachsuche Suche;
-    for (int Zeile = ErsteZeile; Zeile <= Tabelle->Rows() - 2; ++Zeile) {
-        const Fach* Eines = Suche(Art.FachID(Tabelle->RowData(Zeile)));
-        if (!Eines)
-            continue;
-        const Durchschnitte Beide =
-            DurchschnitteBerechnen(Notentexte(*Tabelle, Zeile), HalbjahresbeginnVon(*Eines), Regeln);
+    if (Quelle)
+        Quelle->RegelnSetzen(Regeln);
+    FuerStehendeZeilen([this, &Regeln](int Zeile, const Halbjahresbeginn& Beginn) {
+        const Durchschnitte Beide = DurchschnitteBerechnen(Notentexte(*Tabelle, Zeile), Beginn, Regeln);
         Tabelle->setTextMatrix(Zeile, Notenspalte::HalbjahrDurchschnitt, Beide.Halbjahr);
         Tabelle->setTextMatrix(Zeile, Notenspalte::JahrDurchschnitt, Beide.Jahr);
-    }
+    });
 }
 
 bool Notenliste::InEingabezeile() const {

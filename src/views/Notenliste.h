@@ -4,24 +4,30 @@
 
 #include <QObject>
 
+#include <functional>
+#include <memory>
+
 class EingabeFeld;
 class Gitter;
+class Notenzeilenquelle;
 class QKeyEvent;
+struct Halbjahresbeginn;
 
 /// All in which the grade list of a subject and that of a student differ. A row's Datum is its hidden row
-/// datum.
+/// datum: the ID of the student or of the subject.
 class Listenart {
   public:
     virtual ~Listenart() = default;
 
-    virtual QString Kopf() const = 0;                                 ///< title of the name column
-    virtual QString Feldname() const = 0;                             ///< object name of the floating box
-    virtual int Zaehlerplatz() const = 0;                             ///< slot of EingabeZaehler
-    virtual QString Eingabehinweis() const = 0;                       ///< hint on the entry row
-    virtual bool NachNamen() const = 0;                               ///< rows are sorted by name
-    virtual bool Gewaehlt() const = 0;                                ///< there is something to list
-    virtual int Stufe() const = 0;                                    ///< class level that names the tests
-    virtual std::vector<Notenlistenzeile> Zeilen() const = 0;         ///< from the records
+    virtual QString Kopf() const = 0;                         ///< title of the name column
+    virtual QString Feldname() const = 0;                     ///< object name of the floating box
+    virtual int Zaehlerplatz() const = 0;                     ///< slot of EingabeZaehler
+    virtual QString Eingabehinweis() const = 0;               ///< hint on the entry row
+    virtual bool NachNamen() const = 0;                       ///< rows are sorted by name
+    virtual bool Gewaehlt() const = 0;                        ///< there is something to list
+    virtual int Stufe() const = 0;                            ///< class level that names the tests
+    virtual std::vector<Notenlistenzeile> Zeilen() const = 0; ///< from the records
+    virtual qint32 Datum(const Notenlistenzeile& Zeile) const = 0;
     virtual qint32 SchuelerID(qint32 Datum) const = 0;                ///< student of a row
     virtual qint32 FachID(qint32 Datum) const = 0;                    ///< subject of a row
     virtual bool NamenAendern(qint32 Datum, const QString& Name) = 0; ///< false: nothing to change
@@ -66,6 +72,7 @@ class Notenliste : public QObject {
     void TitelSchreiben();
     void ZeilenSchreiben();
     void HalbjahrtitelSchreiben();
+    void FuerStehendeZeilen(const std::function<void(int, const Halbjahresbeginn&)>& Tun);
 
     void ZelleBetreten();
     bool AufErlaubteZelle();
@@ -86,4 +93,5 @@ class Notenliste : public QObject {
     Gitter* Tabelle;
     EingabeFeld* Feld;
     Listenart& Art;
+    std::shared_ptr<Notenzeilenquelle> Quelle; ///< of the rows in the grid; shared with it
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <qglobal.h>
+#include "core/Definitionen.h"
 
 #include <QString>
 
@@ -10,10 +10,11 @@
 
 /// One row of a grade list.
 struct Notenlistenzeile {
-    int Platz = 0;     ///< place in Datenbank.Noten
-    qint32 Datum = 0;  ///< Schueler.ID in the list of a subject, Fach.ID in the list of a student
-    QString Name;      ///< of the student or subject; "" if there is no such record
-    int FachPlatz = 0; ///< place of its subject in Datenbank.Faecher, -1 if there is none
+    int Platz = 0; ///< place in Datenbank.Noten
+    qint32 Schueler_ID = 0;
+    qint32 Fach_ID = 0;
+    int SchuelerPlatz = -1; ///< place of its student in Datenbank.Schueler, -1: not looked up, or none
+    int FachPlatz = -1;     ///< place of its subject in Datenbank.Faecher, -1 if there is none
 
     bool operator==(const Notenlistenzeile&) const = default;
 };
@@ -23,3 +24,14 @@ std::vector<Notenlistenzeile> NotenzeilenDesFachs(qint32 Fach_ID);
 
 /// The subjects a student takes part in, the last record first.
 std::vector<Notenlistenzeile> NotenzeilenDesSchuelers(qint32 Schueler_ID);
+
+/// The record and the subject of a row, where they stand now; nullptr if they are gone.
+const Notenzeile* SatzDer(const Notenlistenzeile& Zeile);
+const Fach* FachDer(const Notenlistenzeile& Zeile);
+
+/// What a row is listed under; "" if there is no such record.
+const QString& SchuelernameDer(const Notenlistenzeile& Zeile);
+const QString& FachnameDer(const Notenlistenzeile& Zeile);
+
+/// Puts the rows in the order of their students' names; equal ones stay as they stand.
+void NachNamenOrdnen(std::vector<Notenlistenzeile>& Zeilen);

@@ -1,16 +1,72 @@
 #include "views/Spaltenbreite.h"
 
+#include "views/Schuelerliste.h"
+
+#include <algorithm>
+
 Zeichenmass::Zeichenmass(const QFont& Schrift)
-    : Mass(Schrift) {}
+    : Mass(Schrift) {
+    Lateinische.fill(Ungemessen);
+}
+
+double Zeichenmass::Zeichenbreite(QChar Zeichen) {
+    const char16_t Nummer = Zeichen.unicode();
+    double& Breite = Nummer < Lateinische.size() ? Lateinische[Nummer]
+                                                 : Andere.try_emplace(Nummer, Ungemessen).first->second;
+    if (Breite == Ungemessen)
+        Breite = Mass.horizontalAdvance(Zeichen);
+    return Breite;
+}
 
 double Zeichenmass::Breite(const QString& Text) {
     double Summe = 0;
-    for (const QChar Zeichen : Text) {
-        const auto Bekannt = Breiten.constFind(Zeichen.unicode());
-        if (Bekannt != Breiten.constEnd())
-            Summe += *Bekannt;
-        else
-            Summe += *Breiten.insert(Zeichen.unicode(), Mass.horizontalAdvance(Zeichen));
-    }
+    for (const QChar Zeichen : Text)
+        Summe += Zeichenbreite(Zeichen);
     return Summe;
+}
+
+void Spaltenmass::SchriftSetzen(const QFont& Schrift) {
+    if (Schrift == Gemessene)
+        return;
+    Gemessene = Schrift;
+    Zeichen = Zeichenmass(Schrift);
+    AnSchuelern.Vergessen();
+}
+
+bool NochDieselben(const Schuelertexte& Gemerkte, const Schueler& Satz) {
+    const auto Derselbe = [](const QString& Eines, const QString& Anderes) {
+        return NochDieselben(Eines, Anderes);
+    };
+    return Derselbe(Gemerkte.Name, Satz.Name) &&
+           std::equal(Gemerkte.Feld.begin(), Gemerkte.Feld.end(), Satz.Feld.begin(), Derselbe);
+}
+
+Spaltenmass::Schuelerbreiten Spaltenmass::Messen(const Schueler& Satz) {
+    Schuelerbreiten Breiten{Zeichen.Breite(Satz.Name)};
+    for (int k = 1; k <= AnzFelder; ++k)
+        Breiten[static_cast<std::size_t>(k)] = Zeichen.Breite(Satz.Feld[k]);
+    return Breiten;
+}
+
+std::vector<double> Spaltenmass::Breiteste(const Schuelerliste& Liste) {
+    const std::size_t P = Liste.Faecher.size();
+    std::vector<double> Breiten(static_cast<std::size_t>(Liste.Spalten()));
+    const auto Groesser = [&Breiten](std::size_t Spalte, double Neue) {
+        Breiten[Spalte] = std::max(Breiten[Spalte], Neue);
+    };
+    for (std::size_t j = 0; j < P; ++j)
+        for (const QString& Text : Liste.Faecher[j].Teilnahmen)
+            Groesser(1 + j, Zeichen.Breite(Text));
+    const auto Zeilenmass = [this](const Schueler& Satz) { return Messen(Satz); };
+    for (std::size_t z = 0; z < Liste.Zeilen.size(); ++z) {
+        const Schueler* Satz = Liste.Satz(z);
+        if (!Satz)
+            continue;
+        const Schuelerbreiten& Seine =
+            AnSchuelern(static_cast<std::size_t>(Liste.Zeilen[z].Platz), *Satz, Zeilenmass);
+        Groesser(0, Seine[0]);
+        for (std::size_t k = 1; k < Seine.size(); ++k)
+            Groesser(P + k, Seine[k]);
+    }
+    return Breiten;
 }

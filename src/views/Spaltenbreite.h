@@ -1,8 +1,17 @@
 #pragma once
 
+#include "core/Definitionen.h"
+#include "core/Textmerker.h"
+#include "views/AnsichtSSpalten.h"
+
+#include <QFont>
 #include <QFontMetricsF>
-#include <QHash>
 #include <QString>
+
+#include <array>
+#include <unordered_map>
+
+struct Schuelerliste;
 
 /// Measures texts for column widths: the sum of the widths of their characters, each measured once. A list of
 /// thousands of rows is measured without laying out a single line.
@@ -13,6 +22,40 @@ class Zeichenmass {
     double Breite(const QString& Text); ///< in pixels
 
   private:
+    double Zeichenbreite(QChar Zeichen);
+
+    static constexpr double Ungemessen = -1;
     QFontMetricsF Mass;
-    QHash<char16_t, double> Breiten;
+    std::array<double, 0x180> Lateinische; ///< by character: nearly all there are
+    std::unordered_map<char16_t, double> Andere;
+};
+
+/// The texts of a student that view S shows, as they once stood in his record.
+struct Schuelertexte {
+    QString Name;
+    Reihe<QString, 1 + AnzFelder> Feld;
+
+    Schuelertexte() = default;
+    explicit Schuelertexte(const Schueler& Satz)
+        : Name(Satz.Name)
+        , Feld(Satz.Feld) {}
+};
+bool NochDieselben(const Schuelertexte& Gemerkte, const Schueler& Satz);
+
+/// Width of the widest text in each column of a class list, of all its rows. Texts are measured again only
+/// when their record has been written.
+class Spaltenmass {
+  public:
+    /// Font of the widths from now on.
+    void SchriftSetzen(const QFont& Schrift);
+    double Breite(const QString& Text) { return Zeichen.Breite(Text); }
+    std::vector<double> Breiteste(const Schuelerliste& Liste); ///< of all columns, in pixels
+
+  private:
+    using Schuelerbreiten = std::array<double, 1 + AnzFelder>; ///< of the name and of the fields 1..14
+    Schuelerbreiten Messen(const Schueler& Satz);
+
+    QFont Gemessene;
+    Zeichenmass Zeichen{Gemessene};
+    Textmerker<Schuelertexte, Schuelerbreiten> AnSchuelern; ///< by place of the student
 };

@@ -6,6 +6,7 @@
 #include "controls/Kombinationsfeld.h"
 #include "core/Zahlen.h"
 
+#include <QAbstractItemModelTester>
 #include <QClipboard>
 #include <QDialog>
 #include <QHBoxLayout>
@@ -371,6 +372,10 @@ class KombinationsfeldTest : public QObject {
 
     void fillingSelectsNothingAndTellsNothing();
     void sortedListKeepsTheLocalesOrder();
+    void manyEntriesAtOnceAreAsEachAdded();
+    void aFillReplacesWhatWasThere();
+    void entriesAreFoundByTheirDatum();
+    void plainQtInterfaceChangesTheEntries();
     void choosingByCodeIsKlick();
     void plainQtInterfaceIsKlickToo();
     void sameEntryChosenAgainByTheUserIsKlick();
@@ -433,6 +438,70 @@ void KombinationsfeldTest::sortedListKeepsTheLocalesOrder() {
         Namen.append(Feld->itemText(i));
     QCOMPARE(Namen, QStringList({QStringLiteral("apfel"), QStringLiteral("Apfel"), QStringLiteral("Muster"),
                                  QStringLiteral("Österle"), QStringLiteral("Zander")}));
+}
+
+void KombinationsfeldTest::manyEntriesAtOnceAreAsEachAdded() {
+    const QStringList Texte{QStringLiteral("zwei"), QStringLiteral("Äpfel"), QStringLiteral("b"),
+                            QStringLiteral("B"),    QStringLiteral("adam"),  QStringLiteral("b")};
+    for (const bool Sortiert : {false, true}) {
+        Kombinationsfeld Einzeln;
+        Kombinationsfeld Zugleich;
+        std::vector<Listeneintrag> Eintraege;
+        Einzeln.setSortiert(Sortiert);
+        Zugleich.setSortiert(Sortiert);
+        for (int i = 0; i < Texte.size(); ++i) {
+            Einzeln.Hinzufuegen(Texte[i], i);
+            Eintraege.push_back({Texte[i], i});
+        }
+        Zugleich.Fuellen(Eintraege);
+        QCOMPARE(Zugleich.count(), Einzeln.count());
+        for (int i = 0; i < Einzeln.count(); ++i) {
+            QCOMPARE(Zugleich.itemText(i), Einzeln.itemText(i));
+            QCOMPARE(Zugleich.Datum(i), Einzeln.Datum(i));
+        }
+    }
+}
+
+void KombinationsfeldTest::aFillReplacesWhatWasThere() {
+    QSignalSpy Klick(Feld, &Kombinationsfeld::Klick);
+    Feld->setListIndex(0);
+    Feld->setEditText(QStringLiteral("getippt"));
+    Klick.clear();
+    Feld->Fuellen({{QStringLiteral("neu"), 7}});
+    QCOMPARE(Feld->count(), 1);
+    QCOMPARE(Feld->ListIndex(), -1);
+    QCOMPARE(Feld->currentText(), QString());
+    QCOMPARE(Klick.count(), 0);
+    Feld->setListIndex(0);
+    QCOMPARE(Klick.count(), 1);
+    QCOMPARE(Feld->currentText(), QStringLiteral("neu"));
+    QCOMPARE(Feld->AktDatum(), 7);
+    Feld->Fuellen({});
+    QCOMPARE(Feld->count(), 0);
+    QCOMPARE(Feld->currentText(), QString());
+}
+
+void KombinationsfeldTest::entriesAreFoundByTheirDatum() {
+    Feld->Fuellen({{QStringLiteral("a"), 5}, {QStringLiteral("b"), 7}, {QStringLiteral("c"), 5}});
+    QCOMPARE(Feld->IndexMitDatum(7), 1);
+    QCOMPARE(Feld->IndexMitDatum(5), 2); // the last one
+    QCOMPARE(Feld->IndexMitDatum(6), -1);
+}
+
+void KombinationsfeldTest::plainQtInterfaceChangesTheEntries() {
+    const QAbstractItemModelTester Pruefer(Feld->model(),
+                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
+    Feld->clear();
+    Feld->addItem(QStringLiteral("b"), 2);
+    Feld->insertItem(0, QStringLiteral("a"));
+    Feld->setItemData(0, 1);
+    Feld->setItemText(1, QStringLiteral("c"));
+    QCOMPARE(Feld->findText(QStringLiteral("c")), 1);
+    QCOMPARE(Feld->findData(1), 0);
+    QCOMPARE(Feld->Datum(1), 2);
+    Feld->removeItem(0);
+    QCOMPARE(Feld->count(), 1);
+    QCOMPARE(Feld->itemText(0), QStringLiteral("c"));
 }
 
 void KombinationsfeldTest::choosingByCodeIsKlick() {
