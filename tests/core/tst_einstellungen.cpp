@@ -69,7 +69,8 @@ class TestEinstellungen : public QObject {
         // Of another length: QSettings tells files apart by time and size, and time is short here.
         AndererLaufSchreibt("AutoDatei=/b/noch_eine_fremde.txt\n");
         EinstellungenVergessen();
-        QCOMPARE(EinstellungLesen(QStringLiteral("AutoDatei"), Unbenannt), QStringLiteral("/b/noch_eine_fremde.txt"));
+        QCOMPARE(EinstellungLesen(QStringLiteral("AutoDatei"), Unbenannt),
+                 QStringLiteral("/b/noch_eine_fremde.txt"));
     }
 
     void eineAenderungGiltSofortAuchFuerEinenGelesenenWert() {
