@@ -222,10 +222,13 @@ void AnsichtB::SchuelerBetreten() {
     if (!GridEreignisseAktiv)
         return;
     Gitter& Tabelle = *Form->tblBeurteilungen;
+    if (Tabelle.Row() < 1) {
+        KopfzeileVerlassen();
+        return;
+    }
     const Fuellsperre Sperre;
     BeurteilungSchliessen();
-    if (Tabelle.Row() < 1) // the header has no text to write
-        return;
+    BetreteneZeile = Tabelle.Row();
     if (Tabelle.Col() != 1)
         Tabelle.setCol(1);
     NameUndGeschlechtZeigen();
@@ -236,6 +239,14 @@ void AnsichtB::SchuelerBetreten() {
         Q_EMIT PassbildGewuenscht();
     }
     FormulierungenFuellen();
+}
+
+/// A click on the header changes nothing: the row entered last stays the current one, and its text open.
+void AnsichtB::KopfzeileVerlassen() {
+    const Fuellsperre Sperre;
+    Gitter& Tabelle = *Form->tblBeurteilungen;
+    if (BetreteneZeile < Tabelle.Rows())
+        Tabelle.setCell(BetreteneZeile, 1);
 }
 
 void AnsichtB::NameUndGeschlechtZeigen() {

@@ -54,6 +54,7 @@ class AnsichtB : public Ansicht {
     void BeurteilungenFuellen();
     void BeurteilungSchliessen();
     void SchuelerBetreten();
+    void KopfzeileVerlassen();
     void NameUndGeschlechtZeigen();
     void VornameGeaendert();
     void BeurteilungGeaendert();
@@ -79,6 +80,7 @@ class AnsichtB : public Ansicht {
 
     // Its editor.
     void FormulierungBearbeiten();
+    void EditorZeigen(const QString& Text);
     void FormulierungUebernehmen();
     bool FormulierungAbgelegt(const QString& Text);
     void FormulierungGeaendert();
@@ -97,7 +99,7 @@ class AnsichtB : public Ansicht {
     bool UeberTabelle(Ziehart Art, QPoint Ort);
     bool UeberBaum(Ziehart Art, QPoint Ort);
     void InTabelleAblegen(QPoint Ort);
-    void ImBaumAblegen(Ziehart Art);
+    void ImBaumAblegen(Ziehart Art, QPoint Ort);
     void FormulierungInBereich(int Ziel);
     int SchuelerzeileBei(int Y) const;
     void Hinweis(const QString& Text) { Q_EMIT HinweisGewuenscht(Text); }
@@ -115,6 +117,8 @@ class AnsichtB : public Ansicht {
     std::shared_ptr<Schuelerliste> Liste = std::make_shared<Schuelerliste>(); ///< shared with the grid
     Textmerker<QString, int> Beurteilungshoehen; ///< in pixels, by place of the student and period
     int GemesseneBreite = -1;                    ///< of the column, that they hold for
+    int BearbeiteteZeile = 0;                    ///< of tblBFloskel, that txtBEingabe2 lies over
+    int BetreteneZeile = 1;                      ///< of tblBeurteilungen, entered last
     int LetzteFloskelZeile = -1;                 ///< row of the last plain click in tblBFloskel; -1 for none
     QTime LetzterFloskelKlick;                   ///< moment of that click
     bool Loeschtaste = false;                    ///< went down on tblBFloskel

@@ -99,11 +99,13 @@ void AnsichtB::FormulierungenFuellen() {
         Tabelle.ZeilenSetzen(AngepassteZeilen(Lernbereiche[Bereich()]));
         ZeilenhoehenAnpassen(Tabelle, 0);
         Tabelle.setTopRow(Oben < Tabelle.Rows() ? Oben : 0);
-        if (Zeile >= Tabelle.Rows())
+        if (Zeile < 0 || Zeile >= Tabelle.Rows())
             Tabelle.setCell(0, 0);
         Tabelle.setUpdatesEnabled(true);
     }
     Form->picSmileyContainer->hide();
+    if (txtBEingabe2->hasFocus())
+        Hinweis({}); // the hint is the editor's
     txtBEingabe2->Verbergen();
 }
 
@@ -144,6 +146,8 @@ void AnsichtB::FloskelGedrueckt() {
 
 void AnsichtB::FloskelGeklickt() {
     constexpr int Doppelklickzeit = 864; // milliseconds: 0.00001 of a day
+    if (!txtBEingabe2->isHidden())       // the press has opened it, and its hint stands
+        return;
     Hinweis({});
     if (AnzLernbereiche == 0 || InLeerzeile())
         return;
@@ -229,19 +233,29 @@ void AnsichtB::FormulierungBearbeiten() {
     }
     EingabeZaehler[Namensplatz] = 0;
     LetzteFloskelZeile = -1;
-    const auto Farbe =
-        InLeerzeile() ? std::nullopt : Markenfarbe(Lernbereiche[Bereich()].Formulierung[Tabelle.Row()]);
-    Tabelle.scrollTo(Tabelle.currentIndex());
-    txtBEingabe2->Zeigen(Tabelle.TextMatrix(Tabelle.Row(), 0), Farbe ? QColor(*Farbe) : QColor());
+    BearbeiteteZeile = Tabelle.Row();
+    EditorZeigen(Tabelle.TextMatrix(BearbeiteteZeile, 0));
     Form->picSmileyContainer->hide();
+}
+
+/// Over the row at hand, which is the current one then.
+void AnsichtB::EditorZeigen(const QString& Text) {
+    Formulierungstabelle& Tabelle = *Form->tblBFloskel;
+    const QScopedValueRollback Ruhe(GridEreignisseAktiv, false);
+    Tabelle.setCell(BearbeiteteZeile, 0);
+    Tabelle.scrollTo(Tabelle.currentIndex());
+    const Lernbereich& Quelle = Lernbereiche[Bereich()];
+    const auto Farbe =
+        BearbeiteteZeile < Quelle.Anzahl ? Markenfarbe(Quelle.Formulierung[BearbeiteteZeile]) : std::nullopt;
+    txtBEingabe2->Zeigen(Text, Farbe ? QColor(*Farbe) : QColor());
 }
 
 void AnsichtB::FormulierungGeaendert() {
     if (!GridEreignisseAktiv)
         return;
     Formulierungstabelle& Tabelle = *Form->tblBFloskel;
-    Tabelle.setTextMatrix(Tabelle.Row(), 0, txtBEingabe2->Text());
-    ZeilenhoeheAnpassen(Tabelle, Tabelle.Row(), 0);
+    Tabelle.setTextMatrix(BearbeiteteZeile, 0, txtBEingabe2->Text());
+    ZeilenhoeheAnpassen(Tabelle, BearbeiteteZeile, 0);
 }
 
 bool AnsichtB::FormulierungTaste(QKeyEvent* Taste) {
@@ -272,9 +286,9 @@ void AnsichtB::FormulierungUebernehmen() {
         FormulierungenFuellen();
         return;
     }
-    // Refused: the text stays in its editor, when the focus has come to rest.
+    // Refused: the text stays in its editor, over its own row, when the focus has come to rest.
     QMetaObject::invokeMethod(
-        txtBEingabe2, [this] { txtBEingabe2->setFocus(); }, Qt::QueuedConnection);
+        txtBEingabe2, [this] { EditorZeigen(txtBEingabe2->Text()); }, Qt::QueuedConnection);
 }
 
 bool AnsichtB::FormulierungAbgelegt(const QString& Text) {
@@ -283,7 +297,7 @@ bool AnsichtB::FormulierungAbgelegt(const QString& Text) {
     const int Ziel = Bereich();
     const QString Gespeichert =
         FormulierungZurueck(Text, Form->txtBVorname->text(), Form->obBWeiblich->isChecked());
-    if (!Angenommen(FormulierungAblegen(Ziel, Form->tblBFloskel->Row(), Gespeichert)))
+    if (!Angenommen(FormulierungAblegen(Ziel, BearbeiteteZeile, Gespeichert)))
         return false;
     BaumAngleichen(Ziel);
     return true;

@@ -26,7 +26,7 @@ void AnsichtB::ZieleEinrichten() {
                   }});
     new Ziehziel(Form->tvBFloskel->viewport(),
                  {[this](Ziehart Art, QPoint Ort) { return UeberBaum(Art, Ort); },
-                  [this](Ziehart Art, QPoint) { ImBaumAblegen(Art); },
+                  [this](Ziehart Art, QPoint Ort) { ImBaumAblegen(Art, Ort); },
                   [this] {
                       Form->tvBFloskel->setHervorgehoben(-1);
                       Hinweis({});
@@ -120,11 +120,12 @@ bool AnsichtB::UeberBaum(Ziehart Art, QPoint Ort) {
                         : Knoten < AnzLernbereiche && Knoten != Baum.GezogenerKnoten();
 }
 
-void AnsichtB::ImBaumAblegen(Ziehart Art) {
+void AnsichtB::ImBaumAblegen(Ziehart Art, QPoint Ort) {
     const Lernbereichsbaum& Baum = *Form->tvBFloskel;
+    const int Ziel = Baum.KnotenBei(Ort);
     if (Art == Ziehart::Formulierung)
-        FormulierungInBereich(Baum.Hervorgehoben());
-    else if (LernbereichVerschieben(Baum.GezogenerKnoten(), Baum.Hervorgehoben()))
+        FormulierungInBereich(Ziel);
+    else if (LernbereichVerschieben(Baum.GezogenerKnoten(), Ziel))
         LernbereicheFuellen();
 }
 

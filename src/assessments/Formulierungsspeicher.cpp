@@ -102,9 +102,9 @@ void FormulierungVerschieben(int Bereich, int Von, int Nach) {
 }
 
 Ablehnung FormulierungUmziehen(int VonBereich, int Zeile, int NachBereich) {
-    const Ablehnung Grund = PlatzPruefen(NachBereich);
-    if (Grund != Ablehnung::Keine)
-        return Grund;
+    for (const int Bereich : {VonBereich, NachBereich}) // a full area gives nothing away either
+        if (const Ablehnung Grund = PlatzPruefen(Bereich); Grund != Ablehnung::Keine)
+            return Grund;
     const QString Gespeichert = Lernbereiche[VonBereich].Formulierung[Zeile];
     FormulierungLoeschen(VonBereich, Zeile);
     FormulierungAnfuegen(NachBereich, Gespeichert);

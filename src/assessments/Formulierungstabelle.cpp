@@ -35,11 +35,20 @@ void Formulierungstabelle::RandRollen(QPoint Ort) {
         verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd);
 }
 
+void Formulierungstabelle::Enter(int Zeile, int Spalte) {
+    Gitter::Enter(Zeile, Spalte);
+    if (Row() != Zeile)
+        return;
+    Q_EMIT Gedrueckt();
+    Q_EMIT Losgelassen();
+}
+
 void Formulierungstabelle::mousePressEvent(QMouseEvent* Ereignis) {
     Gitter::mousePressEvent(Ereignis);
-    Klickt = Ereignis->button() == Qt::LeftButton && indexAt(Ereignis->position().toPoint()).isValid();
+    const bool Links = Ereignis->button() == Qt::LeftButton;
+    Klickt = Links && indexAt(Ereignis->position().toPoint()).isValid();
     Druckort = Ereignis->position().toPoint();
-    if (Klickt)
+    if (Links) // below the rows, too: it is the current row that counts
         Q_EMIT Gedrueckt();
 }
 

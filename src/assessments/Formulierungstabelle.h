@@ -12,12 +12,15 @@ class Formulierungstabelle : public Gitter {
 
     /// Row in which a dragged phrase would be put for a place in the viewport: below the rows the last one
     /// that holds a phrase. -1 if there is none.
+    /// A click, as of the mouse: Gedrueckt and Losgelassen too.
+    void Enter(int Zeile, int Spalte) override;
+
     int ZielzeileBei(QPoint Ort) const;
     void setZielzeile(int Zeile); ///< shows where a drag would drop; -1: nowhere
     void RandRollen(QPoint Ort);  ///< scrolls while a drag stays near the upper or lower edge
 
   Q_SIGNALS:
-    void Gedrueckt();      ///< the left button went down on a row, which is the current one
+    void Gedrueckt();      ///< the left button went down; on a row, that is the current one now
     void Losgelassen();    ///< it went up again without a drag, and not after a double click
     void ZiehenBegonnen(); ///< it was moved away with the button down
 

@@ -88,9 +88,9 @@ bool Ziehziel::eventFilter(QObject* Objekt, QEvent* Ereignis) {
     const QPoint Ort = Zug->position().toPoint();
     const bool Moeglich = Was.Darueber(*Art, Ort);
     if (Typ == QEvent::Drop) {
+        Was.Verlassen(); // first: what the drop has to say stays to be read
         if (Moeglich)
             Was.Ablegen(*Art, Ort);
-        Was.Verlassen();
     }
     Zug->setDropAction(Qt::MoveAction);
     // An enter is always taken, or there would be no moves.

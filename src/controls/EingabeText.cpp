@@ -42,7 +42,12 @@ void EingabeText::setMehrzeilig(bool Mehrere) {
 }
 
 QString EingabeText::Text() const {
-    return toPlainText().replace(u'\n', QStringLiteral("\r\n"));
+    // Not toPlainText: it makes blanks of no-break spaces.
+    static const QString Zeilenende = QStringLiteral("\r\n");
+    return document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, Zeilenende)
+        .replace(QChar::LineSeparator, Zeilenende);
 }
 
 void EingabeText::Zeigen(const QString& Neuer, QColor Grund) {

@@ -72,7 +72,8 @@ class Gitter : public QTableView {
     Q_INVOKABLE QRect
     CellRect(int Zeile, int Spalte) const; ///< in the grid's own coordinates; a merged header gives the whole
     /// Makes the cell current as a click on it does: scrolled into view, ZelleBetreten, then Geklickt.
-    Q_INVOKABLE void Enter(int Zeile, int Spalte);
+    /// Nothing happens while the grid is disabled.
+    Q_INVOKABLE virtual void Enter(int Zeile, int Spalte);
     /// The part of CellRect that is in sight: inside the grid and not covered by its fixed rows and columns.
     QRect SichtbarerTeil(int Zeile, int Spalte) const;
     /// Emits ZelleBetreten for the current cell once more, as when typing is to begin in it.

@@ -19,7 +19,7 @@ void Gitter::ZelleAnklicken(const QModelIndex& Stelle) {
 }
 
 void Gitter::Enter(int Zeile, int Spalte) {
-    if (!Modell->Enthaelt(Zeile, Spalte))
+    if (!isEnabled() || !Modell->Enthaelt(Zeile, Spalte))
         return;
     const QModelIndex Stelle = Modell->index(Zeile, Spalte);
     setFocus(Qt::MouseFocusReason); // first what a click takes away from an edit in progress

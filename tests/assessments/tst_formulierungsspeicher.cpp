@@ -166,11 +166,12 @@ class FormulierungsspeicherTest : public QObject {
         QVERIFY(!FormulierungenGeaendert);
     }
 
-    void MovingOutOfAFullAreaWorks() {
+    void MovingOutOfAFullAreaIsRefused() {
         BereichAnlegen(QStringLiteral("D"), VieleZeilen(200));
-        QCOMPARE(FormulierungUmziehen(3, 199, 2), Ablehnung::Keine);
-        QCOMPARE(Zeilen(3), VieleZeilen(199));
-        QCOMPARE(Zeilen(2), Worte("o 199"));
+        QCOMPARE(FormulierungUmziehen(3, 199, 2), Ablehnung::FormulierungenVoll);
+        QCOMPARE(Zeilen(3), VieleZeilen(200));
+        QCOMPARE(Zeilen(2), QStringList());
+        QVERIFY(!FormulierungenGeaendert);
     }
 
     void AMarkOverwritesTheFirstCharacter_data() {
