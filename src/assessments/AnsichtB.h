@@ -113,7 +113,7 @@ class AnsichtB : public Ansicht {
     EingabeText* txtBEingabe2;
     Schriftmass Mass;
     std::shared_ptr<Schuelerliste> Liste = std::make_shared<Schuelerliste>(); ///< shared with the grid
-    Textmerker<QString, int> Beurteilungshoehen; ///< in pixels, by place of the student and period
+    Textmerker<QString, int> Beurteilungshoehen; ///< in pixels, by period and place of the student
     int GemesseneBreite = -1;                    ///< of the column, that they hold for
     int LetzteFloskelZeile = -1;                 ///< row of the last plain click in tblBFloskel; -1 for none
     QTime LetzterFloskelKlick;                   ///< moment of that click
