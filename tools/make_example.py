@@ -14,6 +14,7 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 from check_phrases import shown
+from generated_file import write_or_check
 from make_parameter_file import german, table_half_points
 
 DATA = Path(__file__).resolve().parent.parent / "data"
@@ -433,15 +434,5 @@ def book():
     yield [THIS_YEAR, "24.02.", "12.09.", "Wahr", "0,5", "Falsch", "0,3", "1", "1", "0,5"]
 
 
-def main() -> int:
-    raw = "".join("\t".join(row) + "\r\n" for row in book()).encode("cp1252")
-    if sys.argv[1:] == ["--check"]:
-        same = FILE.read_bytes() == raw
-        print(f"{FILE.name}: {'as generated' if same else 'differs from what this script makes'}")
-        return 0 if same else 1
-    sys.stdout.buffer.write(raw)
-    return 0
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(write_or_check(FILE, book()))

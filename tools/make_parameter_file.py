@@ -12,6 +12,8 @@ machine number can show in the file.
 import sys
 from pathlib import Path
 
+from generated_file import write_or_check
+
 LABELS = ("--", "-", "o", "+", "++")
 FILE = Path(__file__).resolve().parent.parent / "data" / "Tafelquell.ini"
 
@@ -92,16 +94,6 @@ def lines():
         yield [str(level), *names]
 
 
-def main() -> int:
-    check()
-    raw = "".join("\t".join(line) + "\r\n" for line in lines()).encode("cp1252")
-    if sys.argv[1:] == ["--check"]:
-        same = FILE.read_bytes() == raw
-        print(f"{FILE.name}: {'as generated' if same else 'differs from what this script makes'}")
-        return 0 if same else 1
-    sys.stdout.buffer.write(raw)
-    return 0
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    check()
+    sys.exit(write_or_check(FILE, lines()))

@@ -40,6 +40,19 @@ Messreihe Vergleichen(const std::function<double()>& Eigene, const std::function
     return Reihe;
 }
 
+void Wachstum(const QString& Name, const std::array<std::function<double()>, 3>& Groessen) {
+    for (const auto& Job : Groessen)
+        Job();
+    std::array<std::vector<double>, 3> Verhaeltnisse;
+    for (int Runde = 0; Runde < Runden11; ++Runde) {
+        const double Einfach = Groessen[0]();
+        Verhaeltnisse[1].push_back(Groessen[1]() / Einfach / 2);
+        Verhaeltnisse[2].push_back(Groessen[2]() / Einfach / 4);
+    }
+    Zeile(Name + QStringLiteral(": time 2x/1x over size"), Median(Verhaeltnisse[1]), 1, 1.15);
+    Zeile(Name + QStringLiteral(": time 4x/1x over size"), Median(Verhaeltnisse[2]), 1, 1.15);
+}
+
 void Zeile(const QString& Name, double Verhaeltnis, double Ziel, double Grenze) {
     std::printf("%s\t%.3f\t%.2f\t%.2f\n", qPrintable(Name), Verhaeltnis, Ziel, Grenze);
     std::fflush(stdout);

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <array>
 #include <functional>
 #include <vector>
 
@@ -25,6 +26,10 @@ struct Messreihe {
 /// Runs both sides in turn, 11 rounds after one that does not count; each gives its seconds. Which side
 /// begins changes from round to round.
 Messreihe Vergleichen(const std::function<double()>& Eigene, const std::function<double()>& Referenz);
+
+/// Runs one job at 1x, 2x and 4x of its size in turn, 11 rounds after one that does not count, and prints two
+/// lines: how its time grows with the size, as the median over the rounds. Each job gives its seconds.
+void Wachstum(const QString& Name, const std::array<std::function<double()>, 3>& Groessen);
 
 /// Prints the line of the table.
 void Zeile(const QString& Name, double Verhaeltnis, double Ziel, double Grenze);

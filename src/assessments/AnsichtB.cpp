@@ -107,7 +107,8 @@ void AnsichtB::SchuelerseiteEinrichten() {
             [this] { Ausfuehren([this] { BeurteilungenFuellen(); }); });
     connect(Form->cbBKlasse, &Kombinationsfeld::Klick, this,
             [this] { Ausfuehren([this] { KlasseGewaehlt(); }); });
-    connect(Form->cbBKlasse, &Kombinationsfeld::Anlegen, this, [this] { KlasseAnlegen(*Form->cbBKlasse); });
+    connect(Form->cbBKlasse, &Kombinationsfeld::Anlegen, this,
+            [this] { KlasseAnlegen(*Form->cbBKlasse, false); });
     connect(Form->cbBKlasse, &Kombinationsfeld::Betreten, this, [this] {
         Hinweis(QStringLiteral(
             "Zur Aufnahme einer neuen Klasse hier die Klassenbezeichnung eingeben und Return drücken!"));

@@ -78,7 +78,7 @@ std::optional<Formulierungsbefund> DateiInSpeicher(const QString& Pfad) {
     Dateifehler Fehler;
     QByteArray Anfang;
     const auto Inhalt = DateiLesen(Pfad, &Fehler, &Anfang);
-    if (!Inhalt && Fehler.Grund != Dateifehler::Art::EinAusgabe)
+    if (!Inhalt && !Fehler.Geoeffnet)
         return {};
     auto Befund = FormulierungenLesen(Inhalt ? *Inhalt : Anfang, Lernbereiche, AnzLernbereiche);
     if (!Inhalt && Befund.Was == Formulierungsbefund::Art::Gut)

@@ -1,6 +1,8 @@
 #include "assessments/Formulierungsdatei.h"
 
+#include "core/Anzeigetext.h"
 #include "core/Codeseite.h"
+#include "core/Zeilenschreiber.h"
 #include "core/Zeilenteiler.h"
 
 namespace {
@@ -52,12 +54,7 @@ Formulierungsbefund Schaden(qint32 Zeilennummer, int Bereich, QByteArrayView Zei
             {},
             Zeilennummer,
             static_cast<qint16>(Bereich),
-            Decodiert(Zeile)};
-}
-
-void ZeileAnhaengen(const QString& Zeile, QByteArray& Bytes) {
-    InCodeseite(Zeile, Bytes);
-    Bytes += "\r\n";
+            Anzeigetext({Zeile.data(), static_cast<std::size_t>(Zeile.size())})};
 }
 
 } // namespace
@@ -89,15 +86,15 @@ Formulierungsbefund FormulierungenLesen(QByteArrayView Bytes, Lernbereichsreihe&
 }
 
 QByteArray FormulierungenBytes(const Lernbereichsreihe& Bereiche, qint16 Anzahl) {
-    QByteArray Bytes;
-    ZeileAnhaengen(QStringLiteral("[Beurteilungsvorlagen für Tafelquell 3.0]"), Bytes);
+    Zeilenschreiber Z;
+    Z.Zeile("[Beurteilungsvorlagen f\xFCr Tafelquell 3.0]");
     for (int i = 0; i < Anzahl; ++i) {
         const Lernbereich& Einer = Bereiche[i];
-        ZeileAnhaengen(u'[' + Einer.Name + u']', Bytes);
+        Z.Textzeile(u'[' + Einer.Name + u']');
         for (int j = 0; j < Einer.Anzahl; ++j)
-            ZeileAnhaengen(Einer.Formulierung[j], Bytes);
+            Z.Textzeile(Einer.Formulierung[j]);
     }
-    return Bytes;
+    return Z.Bytes();
 }
 
 bool IstBereichszeile(const QString& Zeile) {

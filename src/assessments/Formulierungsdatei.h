@@ -20,7 +20,7 @@ struct Formulierungsbefund {
     QString Version;     ///< the three characters at the place of the version
     qint32 Zeile = 1;    ///< number of the line read last, from 1
     qint16 Bereich = 0;  ///< number of the area it belongs to, from 1; 0 before the first
-    QString LetzteZeile; ///< that line; empty if there was none
+    QString LetzteZeile; ///< that line, as fit for a box; empty if there was none
 };
 
 /// Empties the store: no area, and the record of the next one without phrases.

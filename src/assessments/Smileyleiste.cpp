@@ -1,6 +1,7 @@
 #include "assessments/Smileyleiste.h"
 
 #include "assessments/Formulierungsspeicher.h"
+#include "controls/Sinnbilder.h"
 
 #include <QEvent>
 #include <QFrame>
@@ -35,7 +36,7 @@ Smileyleiste::Smileyleiste(QWidget* Eltern)
 QToolButton* Smileyleiste::SmileyBauen(int Nummer) {
     auto* Knopf = new QToolButton(this);
     Knopf->setObjectName(QStringLiteral("picSmiley_%1").arg(Nummer));
-    Knopf->setIcon(QIcon(QStringLiteral(":/symbole/%1.png").arg(QLatin1String(Bilder[Nummer]))));
+    Knopf->setIcon(Sinnbild(QLatin1String(Bilder[Nummer])));
     Knopf->setToolTip(QString::fromUtf8(Marke(Nummer).Beschriftung));
     Knopf->setAccessibleName(QString::fromUtf8(Marke(Nummer).Beschriftung));
     Knopf->setAutoRaise(true);

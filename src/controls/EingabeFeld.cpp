@@ -4,6 +4,7 @@
 #include "controls/Zellanker.h"
 #include "controls/Zellfarben.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -60,6 +61,11 @@ bool EingabeFeld::event(QEvent* Ereignis) {
 void EingabeFeld::mouseDoubleClickEvent(QMouseEvent* Ereignis) {
     Textfeld::mouseDoubleClickEvent(Ereignis);
     Q_EMIT Doppelgeklickt();
+}
+
+/// The wheel scrolls the grid on the box as beside it.
+void EingabeFeld::wheelEvent(QWheelEvent* Ereignis) {
+    QCoreApplication::sendEvent(Tabelle->viewport(), Ereignis);
 }
 
 void EingabeFeld::changeEvent(QEvent* Ereignis) {

@@ -35,6 +35,7 @@ class EingabeFeld : public Textfeld {
   protected:
     bool event(QEvent* Ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent* Ereignis) override;
+    void wheelEvent(QWheelEvent* Ereignis) override;
     void changeEvent(QEvent* Ereignis) override;
     void paintEvent(QPaintEvent* Ereignis) override;
 

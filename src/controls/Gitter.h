@@ -164,6 +164,7 @@ class Gitter : public QTableView {
     void mouseReleaseEvent(QMouseEvent* Ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent* Ereignis) override;
     void keyPressEvent(QKeyEvent* Ereignis) override;
+    bool focusNextPrevChild(bool Vorwaerts) override;
     void keyReleaseEvent(QKeyEvent* Ereignis) override;
     void scrollContentsBy(int Dx, int Dy) override;
     void updateGeometries() override;

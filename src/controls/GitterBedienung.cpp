@@ -56,7 +56,17 @@ void Gitter::mouseDoubleClickEvent(QMouseEvent* Ereignis) {
         Q_EMIT Doppelgeklickt();
 }
 
+/// Tab in a box over a cell leaves the box for the next control. Qt's views would go on to another cell, and
+/// what was typed would be gone.
+bool Gitter::focusNextPrevChild(bool Vorwaerts) {
+    return hasFocus() ? QTableView::focusNextPrevChild(Vorwaerts) : QWidget::focusNextPrevChild(Vorwaerts);
+}
+
 void Gitter::keyPressEvent(QKeyEvent* Ereignis) {
+    if (!hasFocus()) {
+        Ereignis->ignore(); // the box over a cell had no use for the key; it must not move the cell away
+        return;
+    }
     const auto Tab = Ereignis->key() == Qt::Key_Tab;
     if (Tab || Ereignis->key() == Qt::Key_Backtab) {
         if (!Weiter(Tab))
@@ -144,22 +154,27 @@ QModelIndex Gitter::moveCursor(CursorAction Richtung, Qt::KeyboardModifiers Zusa
     return Modell->index(qBound(ErsteZeile, Zeile, Rows() - 1), qBound(ErsteSpalte, Spalte, Cols() - 1));
 }
 
-/// Cell after cell, row after row; false at the end of the grid, where Tab goes on to the next control.
+/// Cell after cell of those that are shown, row after row; false at the end of the grid and where a view has
+/// sent the cell back: there Tab goes on to the next control.
 bool Gitter::Weiter(bool Vorwaerts) {
     const int ErsteSpalte = qMin(FixedCols(), Cols() - 1);
+    const QModelIndex Vorher = currentIndex();
     int Zeile = Row();
-    int Spalte = Col() + (Vorwaerts ? 1 : -1);
-    if (Spalte >= Cols()) {
-        Spalte = ErsteSpalte;
-        ++Zeile;
-    } else if (Spalte < ErsteSpalte) {
-        Spalte = Cols() - 1;
-        --Zeile;
-    }
-    if (Zeile < qMin(FixedRows(), Row()) || Zeile >= Rows() || Spalte < 0)
-        return false;
+    int Spalte = Col();
+    do {
+        Spalte += Vorwaerts ? 1 : -1;
+        if (Spalte >= Cols()) {
+            Spalte = ErsteSpalte;
+            ++Zeile;
+        } else if (Spalte < ErsteSpalte) {
+            Spalte = Cols() - 1;
+            --Zeile;
+        }
+        if (Zeile < qMin(FixedRows(), Vorher.row()) || Zeile >= Rows() || Spalte < 0)
+            return false;
+    } while (ColWidth(Spalte) == 0);
     setCell(Zeile, Spalte);
-    return true;
+    return currentIndex() != Vorher;
 }
 
 void Gitter::focusInEvent(QFocusEvent* Ereignis) {

@@ -20,6 +20,7 @@ Zellanker::Zellanker(QWidget* Gehaltenes, Gitter* Eigner)
     , Feld(Gehaltenes)
     , Tabelle(Eigner) {
     Feld->hide();
+    QWidget::setTabOrder(Tabelle, Feld);
     Tabelle->installEventFilter(this);
     connect(Tabelle, &Gitter::LageGeaendert, this, &Zellanker::Anlegen);
 }

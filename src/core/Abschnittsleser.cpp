@@ -1,20 +1,11 @@
 #include "core/Abschnittsleser.h"
 
-#include "core/Codeseite.h"
+#include "core/Anzeigetext.h"
 #include "core/Laufzeitfehler.h"
 
 #include <QCoreApplication>
 
 namespace {
-
-/// Text of the file for a box. A damaged file may hold one line of many megabytes; its beginning tells
-/// enough.
-QString Anzeigetext(std::string_view Bytes) {
-    constexpr std::size_t Zeigbar = 1000;
-    const std::string_view Anfang = Bytes.substr(0, Zeigbar);
-    const QString Text = AusCodeseite(Anfang.data(), static_cast<qsizetype>(Anfang.size()));
-    return Bytes.size() > Zeigbar ? Text + QStringLiteral(" …") : Text;
-}
 
 [[noreturn]] void LesefehlerWerfen() {
     throw Laufzeitfehler(

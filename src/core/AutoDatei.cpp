@@ -16,8 +16,12 @@ QString AutoDatei() {
 }
 
 void AutoDateiSetzen(const QString& Pfad) {
-    if (AutoDatei() != Pfad)
-        EinstellungSchreiben(Schluessel, Pfad);
+    EinstellungSchreiben(Schluessel, Pfad);
+}
+
+bool AutoLaden() {
+    const QString Wert = EinstellungLesen(QStringLiteral("AutoLaden"), {}).toUpper();
+    return Wert != QStringLiteral("FALSE") && Wert != QStringLiteral("FALSCH") && Wert != u'0';
 }
 
 void TitelAktualisieren() {

@@ -21,17 +21,21 @@ constexpr std::array<char16_t, 256> Zeichentafel = [] {
     return Tafel;
 }();
 
-/// The byte of each UTF-16 unit; 0 where there is none. Text of a grade book touches only its first lines,
-/// so the table costs no more cache than a small one and needs no branch.
-constexpr std::array<unsigned char, 65536> Bytetafel = [] {
-    std::array<unsigned char, 65536> Tafel{};
+/// Stands in Bytetafel for a character without a byte.
+constexpr char16_t OhneByte = 0x100;
+
+/// The byte of each UTF-16 unit. Text of a grade book touches only its first lines, so the table costs no
+/// more cache than a small one and needs no branch.
+constexpr std::array<char16_t, 65536> Bytetafel = [] {
+    std::array<char16_t, 65536> Tafel{};
+    Tafel.fill(OhneByte);
     for (std::size_t Byte = 0; Byte < 256; ++Byte)
-        Tafel[Zeichentafel[Byte]] = static_cast<unsigned char>(Byte);
+        Tafel[Zeichentafel[Byte]] = static_cast<char16_t>(Byte);
     return Tafel;
 }();
 
 constexpr bool HatByte(char16_t Zeichen) {
-    return Bytetafel[Zeichen] != 0 || Zeichen == 0;
+    return Bytetafel[Zeichen] != OhneByte;
 }
 
 // Nearly all text is its own number. Blocks of a fixed length without a branch inside are what the compiler
@@ -53,14 +57,15 @@ bool BlockEntschluesseln(const unsigned char* __restrict Quelle, char16_t* __res
     return Besonders == 0;
 }
 
-/// False if a character has no byte.
-bool Verschluesseln(const char16_t* Quelle, unsigned char* Ziel, qsizetype Anzahl) {
-    bool Fehlt = false;
+/// The entries of all characters, or-ed: OhneByte is in it if one has no byte.
+inline char16_t Verschluesseln(const char16_t* Quelle, unsigned char* Ziel, qsizetype Anzahl) {
+    char16_t Alle = 0;
     for (qsizetype i = 0; i < Anzahl; ++i) {
-        Ziel[i] = Bytetafel[Quelle[i]];
-        Fehlt |= Ziel[i] == 0 && Quelle[i] != 0;
+        const char16_t Eintrag = Bytetafel[Quelle[i]];
+        Ziel[i] = static_cast<unsigned char>(Eintrag);
+        Alle |= Eintrag;
     }
-    return !Fehlt;
+    return Alle;
 }
 
 /// As BlockEntschluesseln, the other way.
@@ -73,7 +78,16 @@ bool BlockVerschluesseln(const char16_t* __restrict Quelle, unsigned char* __res
     return Besonders == 0;
 }
 
-[[noreturn]] void ZeichenFehlt(const QString& Text) {
+/// As Verschluesseln, for whole blocks.
+char16_t BloeckeVerschluesseln(const char16_t* Quelle, unsigned char* Ziel, qsizetype Anzahl) {
+    char16_t Alle = 0;
+    for (qsizetype i = 0; i < Anzahl; i += Block)
+        if (!BlockVerschluesseln(Quelle + i, Ziel + i))
+            Alle |= Verschluesseln(Quelle + i, Ziel + i, Block);
+    return Alle;
+}
+
+[[noreturn, gnu::noinline]] void ZeichenFehlt(QStringView Text) {
     for (const QChar Zeichen : Text)
         if (!HatByte(Zeichen.unicode()))
             throw Laufzeitfehler(
@@ -101,27 +115,21 @@ QString AusCodeseite(const QByteArray& Bytes) {
     return AusCodeseite(Bytes.constData(), Bytes.size());
 }
 
-void InCodeseite(const QString& Text, QByteArray& Ziel) {
-    const qsizetype Vorher = Ziel.size();
-    const qsizetype Anzahl = Text.size();
-    const auto* Quelle = reinterpret_cast<const char16_t*>(Text.constData());
-    Ziel.resize(Vorher + Anzahl);
-    auto* Bytes = reinterpret_cast<unsigned char*>(Ziel.data() + Vorher);
-    bool Ganz = true;
-    qsizetype i = 0;
-    for (; i + Block <= Anzahl; i += Block)
-        if (!BlockVerschluesseln(Quelle + i, Bytes + i))
-            Ganz &= Verschluesseln(Quelle + i, Bytes + i, Block);
-    Ganz &= Verschluesseln(Quelle + i, Bytes + i, Anzahl - i);
-    if (!Ganz) {
-        Ziel.resize(Vorher);
+void InCodeseite(QStringView Text, char* Ziel) {
+    const char16_t* const Quelle = Text.utf16();
+    auto* const Bytes = reinterpret_cast<unsigned char*>(Ziel);
+    const qsizetype Bloecke = Text.size() / Block * Block;
+    char16_t Alle = 0;
+    if (Bloecke > 0)
+        Alle = BloeckeVerschluesseln(Quelle, Bytes, Bloecke);
+    Alle |= Verschluesseln(Quelle + Bloecke, Bytes + Bloecke, Text.size() - Bloecke);
+    if ((Alle & OhneByte) != 0)
         ZeichenFehlt(Text);
-    }
 }
 
 QByteArray InCodeseite(const QString& Text) {
-    QByteArray Bytes;
-    InCodeseite(Text, Bytes);
+    QByteArray Bytes(Text.size(), Qt::Uninitialized);
+    InCodeseite(Text, Bytes.data());
     return Bytes;
 }
 

@@ -1,6 +1,7 @@
 #include "core/Dateischreiber.h"
 
 #include "core/Rettungslage.h"
+#include "core/Rettungsorte.h"
 #include "core/Uhr.h"
 
 #include <QFile>
@@ -31,7 +32,8 @@ std::optional<Dateifehler> Dateischreiber::Schreiben() {
     if (const int Fehler = Ersetzen())
         return Unterbrochen(Fehler);
     RettungEntfernen(&Rettung); // a copy that stays equals its target and goes at the next opportunity
-    ErledigteRettungenEntfernen(Name);
+    if (WeitereRettungen)
+        ErledigteRettungenEntfernen(Name);
     return {};
 }
 
@@ -85,7 +87,7 @@ int Dateischreiber::Retten() {
     if (!Selbstgerettet)
         return 0;
     Wo = Schritt::Retten;
-    ErledigteRettungenEntfernen(Name);
+    WeitereRettungen = ErledigteRettungenEntfernen(Name);
     Rettungskopf Kopf;
     Kopf.Ziel = Name;
     Kopf.Geraet = Stand.st_dev;
@@ -183,7 +185,8 @@ Dateifehler Dateischreiber::Unterbrochen(int Nummer) const {
     return {FehlerArt(Nummer), Nummer, Schrittname(),
             QStringLiteral("Die Datei \"%1\" konnte nicht vollständig gespeichert werden.\nGrund: %2.\n"
                            "Der neue Stand steht vollständig in der Rettungskopie \"%3\".")
-                .arg(Pfad, FehlerUrsache(Nummer), Kopie),
+                    .arg(Pfad, FehlerUrsache(Nummer), Kopie) +
+                Fluechtigkeitshinweis(Rettung.Pfad),
             Kopie};
 }
 

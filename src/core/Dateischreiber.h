@@ -44,8 +44,9 @@ class Dateischreiber {
     QByteArray Ordner; ///< folder of the target
     Deskriptor Ziel;
     struct stat Stand {};
-    bool Neu = false;           ///< the target was made by this save
-    bool Selbstgerettet = true; ///< the rescue copy is this save's own
+    bool Neu = false;             ///< the target was made by this save
+    bool Selbstgerettet = true;   ///< the rescue copy is this save's own
+    bool WeitereRettungen = true; ///< there may be copies besides it
     Inhaltsmarke Vorher;
     Rettungskopie Rettung;
     Schritt Wo = Schritt::Oeffnen; ///< where a failure happened

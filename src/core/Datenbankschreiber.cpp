@@ -6,6 +6,10 @@
 #include "core/Zahlen.h"
 #include "core/Zeilenschreiber.h"
 
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+
 namespace {
 
 /// The visitor that writes the names of the columns.
@@ -100,8 +104,13 @@ void ProbenSchreiben(Zeilenschreiber& Z) {
 }
 
 /// The reader takes exactly five characters of a marker as the ID, so a shorter one gets leading zeros.
-QString Beurteilungsmarke(qint32 SchuelerID, int Slot) {
-    return QStringLiteral("#%1_%2#").arg(SchuelerID, 5, 10, QLatin1Char('0')).arg(Slot + 1);
+std::string Beurteilungsmarke(qint32 SchuelerID, int Slot) {
+    constexpr std::size_t Stellen = 5;
+    const std::string Vorzeichen = SchuelerID < 0 ? "-" : "";
+    const std::string Ziffern = std::to_string(std::abs(qint64{SchuelerID}));
+    const std::size_t Geschrieben = std::min(Stellen, Vorzeichen.size() + Ziffern.size());
+    return '#' + Vorzeichen + std::string(Stellen - Geschrieben, '0') + Ziffern + '_' +
+           std::to_string(Slot + 1) + '#';
 }
 
 void BeurteilungenSchreiben(Zeilenschreiber& Z) {
@@ -112,7 +121,7 @@ void BeurteilungenSchreiben(Zeilenschreiber& Z) {
         for (int Slot = 0; Slot < Einer.Beurteilung.size(); ++Slot) {
             if (Einer.Beurteilung[Slot].isEmpty())
                 continue;
-            Z.Textzeile(Beurteilungsmarke(Einer.ID, Slot));
+            Z.Zeile(Beurteilungsmarke(Einer.ID, Slot));
             Z.Textzeile(Einer.Beurteilung[Slot]);
         }
     }

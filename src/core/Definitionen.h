@@ -82,6 +82,12 @@ struct Notenzeile {
     bool operator==(const Notenzeile&) const = default;
 };
 
+// Records consist of numbers and texts only, so their bytes may be moved to another place.
+Q_DECLARE_TYPEINFO(Fach, Q_RELOCATABLE_TYPE);
+Q_DECLARE_TYPEINFO(Schueler, Q_RELOCATABLE_TYPE);
+Q_DECLARE_TYPEINFO(ZSchueler, Q_RELOCATABLE_TYPE);
+Q_DECLARE_TYPEINFO(Notenzeile, Q_RELOCATABLE_TYPE);
+
 /// All that a grade book file holds.
 struct Notendatenbank {
     Reihe<::Schueler, 5001> Schueler;

@@ -22,8 +22,7 @@ const QString Muster = QStringLiteral("*.txt");
 
 /// Ja in the save prompt without a file yet: asks for one.
 bool ErstmalsSpeichern() {
-    const auto Wahl =
-        Meldungen().Speichern({Tr("Speichern unter..."), {{Tr("Notendatenbank"), Muster}}, AutoDatei()});
+    const auto Wahl = Meldungen().Speichern({Tr("Speichern unter..."), {{Tr("Notendatenbank"), Muster}}, {}});
     if (!Wahl || Wahl->Pfad.isEmpty() || !ErsetzenErlaubt(Wahl->Pfad))
         return false;
     return SpeichernUndMelden(Wahl->Pfad, SpeichernDatenbank3);

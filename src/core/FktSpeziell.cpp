@@ -41,6 +41,16 @@ qint16 NotenIndex(qint32 Schueler_ID, qint32 Fach_ID) {
     });
 }
 
+QHash<qint32, int> ErsteNotenzeilen(qint32 Fach_ID) {
+    QHash<qint32, int> Zeilen;
+    for (int i = 0; i < Datenbank.AnzNoten; ++i) {
+        const Notenzeile& Zeile = Datenbank.Noten[i];
+        if (Zeile.Fach_ID == Fach_ID && !Zeilen.contains(Zeile.Schueler_ID))
+            Zeilen.insert(Zeile.Schueler_ID, i);
+    }
+    return Zeilen;
+}
+
 qint16 ErsteZahl(const QString& Text) {
     const auto Anfang = std::find_if(Text.begin(), Text.end(), IstZiffer);
     if (Anfang == Text.end())

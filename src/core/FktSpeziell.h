@@ -2,6 +2,7 @@
 
 #include "core/Reihe.h"
 
+#include <QHash>
 #include <QString>
 
 // Procedures of this application that several views stand on: look-ups, grade texts, class names.
@@ -12,6 +13,8 @@ qint16 FachIndex(qint32 ID);
 qint16 SchuelerIndex(qint32 ID);
 /// Index in Datenbank.Noten of the first row with both IDs; -1 if none.
 qint16 NotenIndex(qint32 Schueler_ID, qint32 Fach_ID);
+/// What NotenIndex gives for each student that has a row in the subject, for a run over many of them.
+QHash<qint32, int> ErsteNotenzeilen(qint32 Fach_ID);
 
 /// The first run of digits of a text, at most two of them, as a number: 10 for "b10a"; 0 without a digit.
 qint16 ErsteZahl(const QString& Text);

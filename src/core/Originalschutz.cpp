@@ -55,6 +55,9 @@ void LadebefundMerken(const QString& Pfad, bool Lesefehler, int Entfallen) {
 }
 
 QString OriginalSichern(const QString& Pfad) {
+    // Nearly always; then no path needs to be followed.
+    if (Befunde().isEmpty())
+        return {};
     const Ladebefund Befund = Befunde().value(Schluessel(Pfad));
     if (Befund.Lesefehler)
         throw Laufzeitfehler(

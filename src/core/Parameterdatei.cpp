@@ -31,11 +31,12 @@ void LadeParameter() {
     const auto Bytes = DateiLesen(Parameterpfad(), &Fehler);
     if (!Bytes)
         throw Laufzeitfehler(Fehler.Text);
-    const QString Ablehnung = ParameterLesen(*Bytes);
-    // The file is written at the end of the program; one that was refused is then kept beside it.
-    LadebefundMerken(Parameterpfad(), false, Ablehnung.isEmpty() ? 0 : 1);
-    if (!Ablehnung.isEmpty())
-        MeldungZeigen(Ablehnung);
+    const Parameterbefund Befund = ParameterLesen(*Bytes);
+    const bool Abgelehnt = !Befund.Ablehnung.isEmpty();
+    // The file is written at the end of the program; one of which memory has not all is kept before that.
+    LadebefundMerken(Parameterpfad(), false, Abgelehnt ? 1 : Befund.Entfallen);
+    if (Abgelehnt)
+        MeldungZeigen(Befund.Ablehnung);
 }
 
 void SpeichereParameter() {

@@ -5,9 +5,11 @@
 #include "core/Definitionen.h"
 #include "core/FktAllgemein.h"
 #include "core/Parameterabschnitte.h"
+#include "core/Zahlen.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -47,51 +49,57 @@ Zeilenfelder Zerlegen(std::string_view Zeile) {
     return Felder;
 }
 
-void NotenwerteSetzen(Reihe<float, 5>& Ziel, const Zeilenfelder& Felder) {
-    for (int Note = 0; Note < Ziel.size(); ++Note)
-        Ziel[Note] = ZahlAusText(Felder[static_cast<std::size_t>(Note) + 1]);
+// What each row sets. Each gives how much of it was lost: 1 for a row without a place, or its fields that
+// should be numbers and are none.
+
+int NotenwerteSetzen(Reihe<float, 5>& Ziel, const Zeilenfelder& Felder) {
+    int KeineZahl = 0;
+    for (int Note = 0; Note < Ziel.size(); ++Note) {
+        const QString& Text = Felder[static_cast<std::size_t>(Note) + 1];
+        Ziel[Note] = ZahlAusText(Text);
+        if (Ziel[Note] == 0 && !Text.isEmpty() && !ZahlLesen(Text))
+            ++KeineZahl;
+    }
+    return KeineZahl;
 }
 
-void VerteilungszeileLesen(Reihe<Reihe<float, 5>, 5>& Verteilung, int Satz, const Zeilenfelder& Felder) {
-    if (Satz < Verteilung.size())
-        NotenwerteSetzen(Verteilung[Satz], Felder);
+int VerteilungszeileLesen(Reihe<Reihe<float, 5>, 5>& Verteilung, int Satz, const Zeilenfelder& Felder) {
+    return Satz < Verteilung.size() ? NotenwerteSetzen(Verteilung[Satz], Felder) : 1;
 }
 
-void PunktezeileLesen(const Zeilenfelder& Felder) {
+int PunktezeileLesen(const Zeilenfelder& Felder) {
     constexpr int KleinsteGesamtzahl = 10;
     const int Gesamtzahl = GanzzahlAusText(Felder[0]);
-    if (Gesamtzahl >= KleinsteGesamtzahl && Gesamtzahl < BLLVVerteilung.size())
-        NotenwerteSetzen(BLLVVerteilung[Gesamtzahl], Felder);
+    if (Gesamtzahl < KleinsteGesamtzahl || Gesamtzahl >= BLLVVerteilung.size())
+        return 1;
+    return NotenwerteSetzen(BLLVVerteilung[Gesamtzahl], Felder);
 }
 
-void BezeichnungszeileLesen(const Zeilenfelder& Felder) {
+int BezeichnungszeileLesen(const Zeilenfelder& Felder) {
     const int Stufe = GanzzahlAusText(Felder[0]);
     if (Stufe < 1 || Stufe >= Probenbezeichnung.size())
-        return;
+        return 1;
     Probenbezeichnung[Stufe] = Felder[1];
     ExtemporalenBezeichnung[Stufe] = Felder[2];
+    return 0;
 }
 
 /// Satz is the number of the row in its section, from 0.
-void ZeileLesen(std::string_view Abschnitt, int Satz, std::string_view Zeile) {
-    const Zeilenfelder Felder = Zerlegen(Zeile);
+int ZeileLesen(std::string_view Abschnitt, int Satz, const Zeilenfelder& Felder) {
     if (Abschnitt == Eigene)
-        VerteilungszeileLesen(EigeneVerteilung, Satz, Felder);
-    else if (Abschnitt == Gauss)
-        VerteilungszeileLesen(GaussVerteilung, Satz, Felder);
-    else if (Abschnitt == BLLV)
-        PunktezeileLesen(Felder);
-    else if (Abschnitt == Bezeichnungen)
-        BezeichnungszeileLesen(Felder);
+        return VerteilungszeileLesen(EigeneVerteilung, Satz, Felder);
+    if (Abschnitt == Gauss)
+        return VerteilungszeileLesen(GaussVerteilung, Satz, Felder);
+    if (Abschnitt == BLLV)
+        return PunktezeileLesen(Felder);
+    if (Abschnitt == Bezeichnungen)
+        return BezeichnungszeileLesen(Felder);
+    return 1;
 }
 
-} // namespace
-
-QString ParameterLesen(const QByteArray& Bytes) {
-    Bytezeilen Zeilen({Bytes.constData(), static_cast<std::size_t>(Bytes.size())});
-    const QString Grund = Ablehnung(Zeilen.Naechste());
-    if (!Grund.isEmpty())
-        return Grund;
+/// Calls Tun with section, number of the row in it, and fields of each row behind the first line.
+template <class Aktion>
+void ZeilenDurchgehen(Bytezeilen Zeilen, Aktion Tun) {
     std::string_view Abschnitt;
     int Satz = 0;
     while (!Zeilen.AmEnde()) {
@@ -101,8 +109,56 @@ QString ParameterLesen(const QByteArray& Bytes) {
             Satz = 0;
             Zeilen.Naechste();
         } else {
-            ZeileLesen(Abschnitt, Satz++, Zeile);
+            Tun(Abschnitt, Satz++, Zerlegen(Zeile));
         }
     }
-    return {};
+}
+
+/// With the decimal sign of the other languages: "7.5" for "7,5", and "7,5" for "7.5".
+QString Umgezeichnet(QString Feld) {
+    for (QChar& Zeichen : Feld)
+        if (Zeichen == u',' || Zeichen == u'.')
+            Zeichen = Zeichen == u',' ? u'.' : u',';
+    return Feld;
+}
+
+/// True if numbers of the tables can be read only with the other decimal sign, and none only with the
+/// system's.
+bool InAndererZahlform(const Bytezeilen& Zeilen) {
+    bool Eigene = false;
+    bool Andere = false;
+    ZeilenDurchgehen(Zeilen, [&](std::string_view Abschnitt, int /*Satz*/, const Zeilenfelder& Felder) {
+        if (Abschnitt == Bezeichnungen)
+            return;
+        for (const QString& Feld : Felder) {
+            const bool Lesbar = ZahlLesen(Feld).has_value();
+            const bool AndersLesbar = ZahlLesen(Umgezeichnet(Feld)).has_value();
+            Eigene = Eigene || (Lesbar && !AndersLesbar);
+            Andere = Andere || (AndersLesbar && !Lesbar);
+        }
+    });
+    return Andere && !Eigene;
+}
+
+/// Reads all rows; gives what was lost.
+int ZeilenLesen(const Bytezeilen& Zeilen, bool AndereZahlform) {
+    int Entfallen = 0;
+    ZeilenDurchgehen(Zeilen, [&](std::string_view Abschnitt, int Satz, Zeilenfelder Felder) {
+        if (AndereZahlform && Abschnitt != Bezeichnungen)
+            std::transform(Felder.begin(), Felder.end(), Felder.begin(), Umgezeichnet);
+        Entfallen += ZeileLesen(Abschnitt, Satz, Felder);
+    });
+    return Entfallen;
+}
+
+} // namespace
+
+Parameterbefund ParameterLesen(const QByteArray& Bytes) {
+    Bytezeilen Zeilen({Bytes.constData(), static_cast<std::size_t>(Bytes.size())});
+    if (const QString Grund = Ablehnung(Zeilen.Naechste()); !Grund.isEmpty())
+        return {Grund, 0};
+    int Entfallen = ZeilenLesen(Zeilen, false);
+    if (Entfallen > 0 && InAndererZahlform(Zeilen))
+        Entfallen = ZeilenLesen(Zeilen, true);
+    return {{}, Entfallen};
 }

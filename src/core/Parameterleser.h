@@ -3,10 +3,18 @@
 #include <QByteArray>
 #include <QString>
 
-/// Reads the bytes of a parameter file into the distribution tables and the names of tests. On a refused
-/// first line the text to show comes back, and nothing has changed; an empty text is success. Rows and fields
-/// that have no place are dropped, what is no number is 0.
-QString ParameterLesen(const QByteArray& Bytes);
+/// What reading a parameter file came to.
+struct Parameterbefund {
+    QString Ablehnung; ///< the text to show if the first line is refused; empty if it was read
+    int Entfallen = 0; ///< rows that have no place, and fields that should be numbers and are none
+};
+
+/// Reads the bytes of a parameter file into the distribution tables and the names of tests. If the first line
+/// is refused nothing has changed. Rows and fields that have no place are dropped, what is no number is 0.
+///
+/// Numbers have the form of the system. A file in which all are written with the other decimal sign comes
+/// from a system of another language, as the delivered one may, and is read in its own form.
+Parameterbefund ParameterLesen(const QByteArray& Bytes);
 
 /// The bytes of the parameter file from memory.
 QByteArray ParameterBytes();

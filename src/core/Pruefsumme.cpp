@@ -44,12 +44,56 @@ quint32 MitTabelle(const uchar* Byte, qsizetype Laenge, quint32 Wert) {
 }
 
 #if defined(__x86_64__)
-__attribute__((target("sse4.2"))) quint32 MitBefehl(const uchar* Byte, qsizetype Laenge, quint32 Wert) {
-    for (; Laenge >= 8; Laenge -= 8, Byte += 8) {
-        quint64 Acht = 0;
-        std::memcpy(&Acht, Byte, sizeof Acht);
-        Wert = quint32(_mm_crc32_u64(Wert, Acht));
+/// The instruction gives its result after three cycles, but takes a new one each cycle: three strands of this
+/// many bytes side by side keep it busy.
+constexpr qsizetype Strang = 1024;
+
+/// The sum, as if a strand of zeros followed. It is linear, so it goes byte by byte through tables.
+constexpr std::array<std::array<quint32, 256>, 4> Nullenstrang = [] {
+    std::array<std::array<quint32, 256>, 4> T{};
+    for (size_t Stufe = 0; Stufe < 4; ++Stufe) {
+        for (quint32 Bit = 0; Bit < 8; ++Bit) {
+            quint32 Wert = 1U << (8 * quint32(Stufe) + Bit);
+            for (qsizetype i = 0; i < Strang; ++i)
+                Wert = (Wert >> 8U) ^ Tabelle[0][Wert & 255U];
+            T[Stufe][1U << Bit] = Wert;
+        }
+        for (quint32 i = 1; i < 256; ++i) {
+            const quint32 OhneLetztes = i & (i - 1);
+            T[Stufe][i] = T[Stufe][OhneLetztes] ^ T[Stufe][i ^ OhneLetztes];
+        }
     }
+    return T;
+}();
+
+quint32 MitNullenstrang(quint32 Wert) {
+    return Nullenstrang[0][Wert & 255U] ^ Nullenstrang[1][(Wert >> 8U) & 255U] ^
+           Nullenstrang[2][(Wert >> 16U) & 255U] ^ Nullenstrang[3][Wert >> 24U];
+}
+
+__attribute__((target("sse4.2"))) inline quint64 Acht(quint64 Wert, const uchar* Byte) {
+    quint64 Bytes = 0;
+    std::memcpy(&Bytes, Byte, sizeof Bytes);
+    return _mm_crc32_u64(Wert, Bytes);
+}
+
+__attribute__((target("sse4.2"))) quint32 DreiStraenge(const uchar* Byte, quint32 Wert) {
+    quint64 Erster = Wert;
+    quint64 Zweiter = 0;
+    quint64 Dritter = 0;
+    for (qsizetype i = 0; i < Strang; i += 8) {
+        Erster = Acht(Erster, Byte + i);
+        Zweiter = Acht(Zweiter, Byte + Strang + i);
+        Dritter = Acht(Dritter, Byte + 2 * Strang + i);
+    }
+    return MitNullenstrang(MitNullenstrang(quint32(Erster)) ^ quint32(Zweiter)) ^ quint32(Dritter);
+}
+
+__attribute__((target("sse4.2"))) quint32 MitBefehl(const uchar* Byte, qsizetype Laenge, quint32 Wert) {
+    for (; Laenge >= 3 * Strang; Laenge -= 3 * Strang, Byte += 3 * Strang)
+        Wert = DreiStraenge(Byte, Wert);
+    for (; Laenge >= 8; Laenge -= 8, Byte += 8)
+        Wert = quint32(Acht(Wert, Byte));
     for (; Laenge > 0; --Laenge, ++Byte)
         Wert = _mm_crc32_u8(Wert, *Byte);
     return Wert;

@@ -5,6 +5,7 @@
 #include "core/FktAllgemein.h"
 #include "core/Laufzeitfehler.h"
 #include "core/Meldungen.h"
+#include "core/Rettungsorte.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -142,7 +143,8 @@ void Behalten(const Rettungsfund& Fund) {
     if (Fehler)
         MeldungZeigen(Fehler->Text, {}, Symbol::Fehler);
     else
-        MeldungZeigen(QStringLiteral("Die Rettungskopie bleibt erhalten als\n\"%1\".").arg(Wohin));
+        MeldungZeigen(QStringLiteral("Die Rettungskopie bleibt erhalten als\n\"%1\".").arg(Wohin) +
+                      Fluechtigkeitshinweis(QFile::encodeName(Wohin)));
 }
 
 void Ausfuehren(Rettungswahl Wahl, const Rettungsfund& Fund) {
@@ -180,24 +182,29 @@ std::optional<Rettungsfund> OhneFrageErledigen(const QByteArray& Pfad) {
     QByteArray Inhalt;
     if (RettungOeffnen(Pfad, &Kopie) != 0)
         return {};
-    const auto Fund = RettungEinordnen(Kopie, &Inhalt);
+    auto Fund = RettungEinordnen(Kopie, &Inhalt);
     if (!Fund)
         return {};
     if (Fund->Lage == Rettungslage::Gleich)
         ErledigteRettungEntfernen(&Kopie, Fund->Kopf.Ziel);
     else if (Fund->Lage == Rettungslage::Defekt)
         DefekteBeiseiteLegen(&Kopie);
-    else
+    else {
+        // Whoever decides later, decides perhaps after the computer was switched off.
+        if (IstFluechtig(Pfad) && RettungHeimholen(Fund->Kopf, Inhalt, &Kopie) == 0)
+            Fund->Pfad = Kopie.Pfad;
         return Fund;
+    }
     return {};
 }
 
 /// Ziel empty: the copies of all files.
 void Anbieten(const QByteArray& Ziel) {
     QList<QByteArray> Pfade;
-    if (const int Fehler = RettungenAuflisten(&Pfade))
+    QByteArray Unlesbar;
+    if (const int Fehler = RettungenAuflisten(&Pfade, &Unlesbar))
         MeldungZeigen(QStringLiteral("Im Ordner \"%1\" konnte nicht nach Rettungskopien gesucht werden: %2.")
-                          .arg(QFile::decodeName(Rettungsordner()), FehlerUrsache(Fehler)),
+                          .arg(QFile::decodeName(Unlesbar), FehlerUrsache(Fehler)),
                       {}, Symbol::Warnung);
     for (const QByteArray& Pfad : Pfade) {
         // Looked at one by one: the answer for one copy can settle the next.
@@ -205,8 +212,9 @@ void Anbieten(const QByteArray& Ziel) {
         if (!Fund || (!Ziel.isEmpty() && Fund->Kopf.Ziel != Ziel))
             continue;
         const Angebot Eines = AngebotFuer(*Fund);
-        const int Knopf = Meldungen().Waehlen(
-            {Eines.Text, QStringLiteral("Rettungskopie gefunden"), Eines.Knoepfe, Eines.Vorgabe});
+        const int Knopf =
+            Meldungen().Waehlen({Eines.Text + Fluechtigkeitshinweis(Fund->Pfad),
+                                 QStringLiteral("Rettungskopie gefunden"), Eines.Knoepfe, Eines.Vorgabe});
         Ausfuehren(Eines.Wahlen.value(Knopf, Rettungswahl::Spaeter), *Fund);
     }
 }

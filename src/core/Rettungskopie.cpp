@@ -1,11 +1,10 @@
 #include "core/Rettungskopie.h"
 
-#include "core/Orte.h"
-
-#include <QFile>
+#include "core/Rettungsorte.h"
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -15,8 +14,12 @@ namespace {
 const QByteArray Fertig = QByteArrayLiteral("rescue");
 const QByteArray Unfertig = QByteArrayLiteral("tmp");
 
-QByteArray PfadVon(qint64 Nummer, const QByteArray& Endung) {
-    return Rettungsordner() + "/r." + QByteArray::number(Nummer) + '.' + Endung;
+QByteArray PfadVon(const QByteArray& Ordner, qint64 Nummer, const QByteArray& Endung) {
+    return Ordner + "/r." + QByteArray::number(Nummer) + '.' + Endung;
+}
+
+QByteArray NameVon(const QByteArray& Pfad) {
+    return Pfad.mid(Pfad.lastIndexOf('/') + 1);
 }
 
 /// The number of a name r.N.anything; 0 for other names.
@@ -31,9 +34,8 @@ bool IstRettung(const QByteArray& Name) {
     return NummerVon(Name) > 0 && (Name.endsWith('.' + Fertig) || Name.endsWith('.' + Unfertig));
 }
 
-int NamenLesen(QList<QByteArray>* Namen) {
-    const QByteArray Name = Rettungsordner();
-    DIR* const Offener = Beharrlich([&] { return Aufrufe().Opendir(Name.constData()); }, nullptr);
+int NamenLesen(const QByteArray& Pfad, QList<QByteArray>* Namen) {
+    DIR* const Offener = Beharrlich([&] { return Aufrufe().Opendir(Pfad.constData()); }, nullptr);
     if (!Offener)
         return errno == ENOENT ? 0 : errno;
     const std::unique_ptr<DIR, int (*)(DIR*)> Ordner(Offener, Aufrufe().Closedir);
@@ -47,12 +49,11 @@ int NamenLesen(QList<QByteArray>* Namen) {
 }
 
 /// The folder is there and closed to others.
-int OrdnerBereiten() {
-    const QByteArray Name = Rettungsordner();
+int OrdnerBereiten(const QByteArray& Name) {
     Deskriptor Ordner;
     int Fehler = DateiOeffnen(Name, O_RDONLY | O_DIRECTORY, &Ordner);
     if (Fehler == ENOENT) {
-        // Asking for the name has tried to make it; this tells why that failed.
+        // Asking for the name of the state folder has tried to make it; this tells why that failed.
         Fehler = Beharrlich([&] { return Aufrufe().Mkdir(Name.constData(), 0700); }) == -1 ? errno : 0;
         if (Fehler == 0)
             Fehler = DateiOeffnen(Name, O_RDONLY | O_DIRECTORY, &Ordner);
@@ -71,26 +72,32 @@ int Sperren(const Deskriptor& Datei) {
     return Ergebnis == -1 && errno == EWOULDBLOCK ? EWOULDBLOCK : 0;
 }
 
-int HoechsteNummer(qint64* Hoechste) {
-    QList<QByteArray> Namen;
-    const int Fehler = NamenLesen(&Namen);
-    for (const QByteArray& Name : Namen)
-        *Hoechste = std::max(*Hoechste, NummerVon(Name));
-    return Fehler;
+/// Over all folders, so that numbers tell the order in which copies were made. Only Ordner must be readable.
+int HoechsteNummer(const QByteArray& Ordner, qint64* Hoechste) {
+    int Ergebnis = 0;
+    for (const QByteArray& Einer : AlleRettungsordner()) {
+        QList<QByteArray> Namen;
+        const int Fehler = NamenLesen(Einer, &Namen);
+        if (Einer == Ordner)
+            Ergebnis = Fehler;
+        for (const QByteArray& Name : Namen)
+            *Hoechste = std::max(*Hoechste, NummerVon(Name));
+    }
+    return Ergebnis;
 }
 
 /// Creates r.N.tmp under a number that nothing else bears. Whoever has made r.N.tmp alone may make
 /// r.N.rescue, so two programs never meet at one number.
 int UnfertigeAnlegen(Rettungskopie* Neue, qint64* Nummer) {
     *Nummer = 0;
-    int Fehler = HoechsteNummer(Nummer);
+    int Fehler = HoechsteNummer(Neue->Ordner, Nummer);
     constexpr int Versuche = 100;
     for (int Versuch = 1; Fehler == 0 && Versuch <= Versuche; ++Versuch) {
         ++*Nummer;
-        Neue->Pfad = PfadVon(*Nummer, Unfertig);
+        Neue->Pfad = PfadVon(Neue->Ordner, *Nummer, Unfertig);
         Fehler = DateiOeffnen(Neue->Pfad, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, &Neue->Datei, 0600);
         struct stat Stand {};
-        const QByteArray Endgueltig = PfadVon(*Nummer, Fertig);
+        const QByteArray Endgueltig = PfadVon(Neue->Ordner, *Nummer, Fertig);
         const auto Nachsehen = [&] { return Aufrufe().Stat(Endgueltig.constData(), &Stand); };
         if (Fehler == 0 && Beharrlich(Nachsehen) == -1)
             return errno == ENOENT ? Sperren(Neue->Datei) : errno;
@@ -109,24 +116,19 @@ int Fuellen(Rettungskopie* Neue, qint64 Nummer, const Rettungskopf& Kopf, const 
         Fehler = GanzSchreiben(Neue->Datei, Inhalt, Kopfbytes.size());
     if (Fehler == 0)
         Fehler = Synchronisieren(Neue->Datei);
-    const QByteArray Endgueltig = PfadVon(Nummer, Fertig);
+    const QByteArray Endgueltig = PfadVon(Neue->Ordner, Nummer, Fertig);
     if (Fehler == 0)
         Fehler = DateiUmbenennen(Neue->Pfad, Endgueltig);
     if (Fehler != 0)
         return Fehler;
     Neue->Pfad = Endgueltig;
-    return OrdnerSynchronisieren(Rettungsordner());
+    return OrdnerSynchronisieren(Neue->Ordner);
 }
 
-} // namespace
-
-QByteArray Rettungsordner() {
-    return QFile::encodeName(Zustandsverzeichnis());
-}
-
-int RettungAnlegen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungskopie* Neue) {
-    Neue->Ordner = Rettungsordner();
-    if (const int Fehler = OrdnerBereiten())
+int InOrdnerAnlegen(const QByteArray& Ordner, const Rettungskopf& Kopf, const QByteArray& Inhalt,
+                    Rettungskopie* Neue) {
+    Neue->Ordner = Ordner;
+    if (const int Fehler = OrdnerBereiten(Ordner))
         return Fehler;
     qint64 Nummer = 0;
     int Fehler = UnfertigeAnlegen(Neue, &Nummer);
@@ -135,6 +137,29 @@ int RettungAnlegen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungsk
     if (Fehler != 0 && Neue->Datei.Offen())
         RettungEntfernen(Neue);
     return Fehler;
+}
+
+} // namespace
+
+int RettungAnlegen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungskopie* Neue) {
+    const int Grund = InOrdnerAnlegen(Rettungsordner(), Kopf, Inhalt, Neue);
+    if (Grund == 0 || !AusweichenHilft(Grund))
+        return Grund;
+    for (const QByteArray& Ordner : AlleRettungsordner().mid(1))
+        if (InOrdnerAnlegen(Ordner, Kopf, Inhalt, Neue) == 0) {
+            AusweichenMerken(Ordner, Grund);
+            return 0;
+        }
+    return Grund;
+}
+
+int RettungHeimholen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungskopie* Eine) {
+    Rettungskopie Neue;
+    if (const int Fehler = InOrdnerAnlegen(Rettungsordner(), Kopf, Inhalt, &Neue))
+        return Fehler;
+    RettungEntfernen(Eine); // one that stays is the same, and goes when its twin does
+    *Eine = std::move(Neue);
+    return 0;
 }
 
 int RettungOeffnen(const QByteArray& Pfad, Rettungskopie* Gefundene) {
@@ -158,8 +183,7 @@ int RettungEntfernen(Rettungskopie* Erledigte) {
 }
 
 int RettungBeiseiteLegen(Rettungskopie* Eine, const QByteArray& Endung, QByteArray* Neuer) {
-    const QByteArray Name = Eine->Pfad.mid(Eine->Pfad.lastIndexOf('/') + 1);
-    *Neuer = PfadVon(NummerVon(Name), Endung);
+    *Neuer = PfadVon(Eine->Ordner, NummerVon(NameVon(Eine->Pfad)), Endung);
     struct stat Stand {};
     if (Aufrufe().Stat(Neuer->constData(), &Stand) == 0)
         return EEXIST;
@@ -169,13 +193,21 @@ int RettungBeiseiteLegen(Rettungskopie* Eine, const QByteArray& Endung, QByteArr
     return Fehler;
 }
 
-int RettungenAuflisten(QList<QByteArray>* Pfade) {
-    QList<QByteArray> Namen;
-    const int Fehler = NamenLesen(&Namen);
-    Namen.removeIf([](const QByteArray& Name) { return !IstRettung(Name); });
-    std::sort(Namen.begin(), Namen.end(),
-              [](const QByteArray& A, const QByteArray& B) { return NummerVon(A) > NummerVon(B); });
-    for (const QByteArray& Name : Namen)
-        Pfade->append(Rettungsordner() + '/' + Name);
-    return Fehler;
+int RettungenAuflisten(QList<QByteArray>* Pfade, QByteArray* Unlesbar) {
+    int Ergebnis = 0;
+    for (const QByteArray& Ordner : AlleRettungsordner()) {
+        QList<QByteArray> Namen;
+        const int Fehler = NamenLesen(Ordner, &Namen);
+        if (Fehler != 0 && Unlesbar)
+            *Unlesbar = Ordner;
+        Ergebnis = Fehler != 0 ? Fehler : Ergebnis;
+        for (const QByteArray& Name : Namen)
+            if (IstRettung(Name))
+                Pfade->append(Ordner + '/' + Name);
+    }
+    // Of two with one number the one in the state folder comes first.
+    std::stable_sort(Pfade->begin(), Pfade->end(), [](const QByteArray& A, const QByteArray& B) {
+        return NummerVon(NameVon(A)) > NummerVon(NameVon(B));
+    });
+    return Ergebnis;
 }

@@ -4,9 +4,9 @@
 
 #include <QList>
 
-// The files r.N.rescue in the state folder. Whoever writes or uses one holds a lock on it, so that a second
-// running program leaves it alone; the lock ends with the process. No number is ever used twice, and nothing
-// is written over an existing copy.
+// The files r.N.rescue in the folders for rescue copies (core/Rettungsorte.h). Whoever writes or uses one
+// holds a lock on it, so that a second running program leaves it alone; the lock ends with the process. No
+// number is ever used twice, and nothing is written over an existing copy.
 
 /// A rescue copy that this process has open and locked.
 struct Rettungskopie {
@@ -15,8 +15,13 @@ struct Rettungskopie {
     Deskriptor Datei;
 };
 
-/// Makes a complete rescue copy, durable before this returns. On failure nothing of it stays.
+/// Makes a complete rescue copy, durable before this returns, in the first folder that has room for it. On
+/// failure nothing of it stays, and errno is that of the first folder.
 int RettungAnlegen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungskopie* Neue);
+
+/// Moves a copy that is lost with the session to the state folder: first the new one is complete there, then
+/// the old one goes. On failure *Eine stays as it is.
+int RettungHeimholen(const Rettungskopf& Kopf, const QByteArray& Inhalt, Rettungskopie* Eine);
 
 /// Opens and locks an existing one. EWOULDBLOCK: another process is at work on it.
 int RettungOeffnen(const QByteArray& Pfad, Rettungskopie* Gefundene);
@@ -28,8 +33,7 @@ int RettungEntfernen(Rettungskopie* Erledigte);
 /// Takes the copy out of what is offered, without losing it: it becomes r.N.<Endung>. *Neuer: its path.
 int RettungBeiseiteLegen(Rettungskopie* Eine, const QByteArray& Endung, QByteArray* Neuer);
 
-/// Paths of all rescue copies, the newest first; unfinished ones (r.N.tmp) too. A missing folder holds none.
-int RettungenAuflisten(QList<QByteArray>* Pfade);
-
-/// The state folder as the file system spells it.
-QByteArray Rettungsordner();
+/// Paths of all rescue copies in all folders, the newest first; unfinished ones (r.N.tmp) too. A missing
+/// folder holds none. If one cannot be read, its errno comes back, and *Unlesbar is its path; the others are
+/// listed.
+int RettungenAuflisten(QList<QByteArray>* Pfade, QByteArray* Unlesbar = nullptr);

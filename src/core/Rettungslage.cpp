@@ -86,7 +86,7 @@ int ErledigteRettungEntfernen(Rettungskopie* Kopie, const QByteArray& Ziel) {
     return Fehler == 0 ? RettungEntfernen(Kopie) : Fehler;
 }
 
-void ErledigteRettungenEntfernen(const QByteArray& Ziel) {
+bool ErledigteRettungenEntfernen(const QByteArray& Ziel) {
     QList<QByteArray> Pfade;
     RettungenAuflisten(&Pfade);
     for (const QByteArray& Pfad : Pfade) {
@@ -98,4 +98,5 @@ void ErledigteRettungenEntfernen(const QByteArray& Ziel) {
         if (Fund && Fund->Lage == Rettungslage::Gleich && Fund->Kopf.Ziel == Ziel)
             ErledigteRettungEntfernen(&Kopie, Ziel);
     }
+    return !Pfade.isEmpty();
 }

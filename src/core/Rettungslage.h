@@ -36,4 +36,5 @@ std::vector<Rettungsfund> RettungenSuchen(int* Fehler = nullptr);
 int ErledigteRettungEntfernen(Rettungskopie* Kopie, const QByteArray& Ziel);
 
 /// The same for all copies of this target that it equals, byte for byte. Ziel without symbolic links.
-void ErledigteRettungenEntfernen(const QByteArray& Ziel);
+/// False if there was no copy at all, of whatever file.
+bool ErledigteRettungenEntfernen(const QByteArray& Ziel);

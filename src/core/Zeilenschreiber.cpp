@@ -3,58 +3,79 @@
 #include "core/Codeseite.h"
 #include "core/GrosseSeiten.h"
 
-#include <array>
+#include <algorithm>
 #include <charconv>
 
 Zeilenschreiber::Zeilenschreiber(qsizetype Erwartet) {
-    Geschrieben.reserve(Erwartet);
-    GrosseSeitenErbitten(Geschrieben.data(), Geschrieben.capacity());
+    Wachsen(Erwartet);
+    GrosseSeitenErbitten(Block.data(), Block.size());
 }
 
-void Zeilenschreiber::Feld(const QString& Text) {
-    Trennen();
-    if (!Text.isEmpty())
-        InCodeseite(Text, Geschrieben);
+void Zeilenschreiber::Feld(const QString& Inhalt) {
+    Textfeld(Inhalt);
 }
 
 void Zeilenschreiber::Feld(qint32 Zahl) {
-    Trennen();
+    Textfeld({});
     Ziffern(Zahl);
 }
 
-void Zeilenschreiber::Name(QStringView Text) {
-    Trennen();
-    InCodeseite(QString::fromRawData(Text.data(), Text.size()), Geschrieben);
+void Zeilenschreiber::Name(QStringView Inhalt) {
+    Textfeld(Inhalt);
 }
 
-void Zeilenschreiber::Name(QStringView Text, int Nummer) {
-    Name(Text);
+void Zeilenschreiber::Name(QStringView Inhalt, int Nummer) {
+    Textfeld(Inhalt);
     Ziffern(Nummer);
 }
 
 void Zeilenschreiber::ZeileEnden() {
-    Geschrieben.append("\r\n", 2);
+    Roh("\r\n");
     ZeileLeer = true;
 }
 
 void Zeilenschreiber::Zeile(std::string_view Inhalt) {
-    Geschrieben.append(Inhalt.data(), static_cast<qsizetype>(Inhalt.size()));
+    Roh(Inhalt);
     ZeileEnden();
 }
 
 void Zeilenschreiber::Textzeile(const QString& Inhalt) {
-    InCodeseite(Inhalt, Geschrieben);
+    Platz(Inhalt.size());
+    InCodeseite(Inhalt, Stelle);
+    Stelle += Inhalt.size();
     ZeileEnden();
 }
 
-void Zeilenschreiber::Ziffern(qint32 Zahl) {
-    std::array<char, 12> Puffer{};
-    const auto Ende = std::to_chars(Puffer.data(), Puffer.data() + Puffer.size(), Zahl).ptr;
-    Geschrieben.append(Puffer.data(), Ende - Puffer.data());
+QByteArray Zeilenschreiber::Bytes() {
+    Block.resize(Stelle - Block.constData());
+    Stelle = Ende = nullptr;
+    return Block;
 }
 
-void Zeilenschreiber::Trennen() {
-    if (!ZeileLeer)
-        Geschrieben.append('\t');
+void Zeilenschreiber::Ziffern(qint32 Zahl) {
+    constexpr qsizetype Laengste = 11; // a sign and ten digits
+    Platz(Laengste);
+    Stelle = std::to_chars(Stelle, Ende, Zahl).ptr;
+}
+
+void Zeilenschreiber::Roh(std::string_view Inhalt) {
+    Platz(static_cast<qsizetype>(Inhalt.size()));
+    Stelle = std::copy(Inhalt.begin(), Inhalt.end(), Stelle);
+}
+
+// Nearly all of a grade book's fields are short: one look at the room serves tab and text.
+void Zeilenschreiber::Textfeld(QStringView Inhalt) {
+    Platz(Inhalt.size() + 1);
+    *Stelle = '\t';
+    Stelle += ZeileLeer ? 0 : 1;
     ZeileLeer = false;
+    InCodeseite(Inhalt, Stelle);
+    Stelle += Inhalt.size();
+}
+
+void Zeilenschreiber::Wachsen(qsizetype Mehr) {
+    const qsizetype Geschrieben = Stelle ? Stelle - Block.constData() : Block.size();
+    Block.resize(Geschrieben + std::max(Mehr, Geschrieben / 2 + 256));
+    Stelle = Block.data() + Geschrieben;
+    Ende = Block.data() + Block.size();
 }

@@ -1,8 +1,8 @@
 #include "frame/Anwendung.h"
 
+#include "controls/Sinnbilder.h"
 #include "core/Fehlerfang.h"
 #include "core/Zahlen.h"
-#include "frame/Sinnbilder.h"
 
 #include <QTranslator>
 
@@ -11,7 +11,7 @@ Anwendung::Anwendung(int& Anzahl, char** Argumente)
     setApplicationName(QStringLiteral("Tafelquell"));
     setApplicationVersion(QStringLiteral(TAFELQUELL_VERSION));
     setDesktopFileName(QStringLiteral("de.tafelquell.Tafelquell"));
-    setWindowIcon(Sinnbild(QStringLiteral("tafelquell")));
+    setWindowIcon(Programmsinnbild());
     QLocale::setDefault(SystemSprache());
 
     auto* Deutsch = new QTranslator(this);

@@ -2,6 +2,7 @@
 
 #include "core/AutoDatei.h"
 #include "core/Definitionen.h"
+#include "frame/Programmname.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -14,8 +15,6 @@
 #include <QStandardPaths>
 
 namespace {
-
-constexpr int LaengstesWort = 60;
 
 /// The window over which a box belongs; while none is active, the main window.
 QWidget* Besitzer() {
@@ -77,7 +76,7 @@ void Einrichten(QMessageBox& Kasten, const QString& Text, const QString& Titel, 
     Kasten.setObjectName(QStringLiteral("Meldung"));
     Kasten.setTextFormat(Qt::PlainText);
     Kasten.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    Kasten.setWindowTitle(Titel.isEmpty() ? Programmtitel : Titel);
+    Kasten.setWindowTitle(Titel.isEmpty() ? Programmname : Titel);
     Kasten.setText(BoxText(Text));
     Kasten.setIcon(Kastenbild(Bild));
 }
@@ -133,8 +132,6 @@ std::optional<Dateiwahl> DateiWaehlen(QFileDialog& Dialog, const Dateiwunsch& Wu
 QString BoxText(const QString& Text) {
     QString Ergebnis = Text;
     Ergebnis.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-    static const QRegularExpression LangesWort(QStringLiteral("\\S{%1}").arg(LaengstesWort));
-    Ergebnis.replace(LangesWort, QStringLiteral("\\0\u200B"));
     return Ergebnis;
 }
 

@@ -12,8 +12,8 @@ class Fenstermeldungen : public Meldungsdienst {
     std::optional<Dateiwahl> Speichern(const Dateiwunsch& Wunsch) override;
 };
 
-/// A text as a box shows it: CR LF and CR break lines as LF does, and words too long for a line get places
-/// where they may break.
+/// A text as a box shows it: CR LF and CR break lines as LF does; nothing else is touched, since a teacher
+/// may copy a path out of it. A word too long for a line is broken by QMessageBox.
 QString BoxText(const QString& Text);
 
 /// The name with the ending of the filter's pattern ("*.txt") if it has none of its own. An ending is two to

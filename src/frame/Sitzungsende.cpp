@@ -9,6 +9,7 @@
 #include "core/Einstellungen.h"
 #include "core/Fehlerfang.h"
 #include "core/Rettungsablage.h"
+#include "core/Rettungsorte.h"
 #include "frame/frmMain.h"
 
 #include <QDebug>
@@ -45,6 +46,9 @@ void RettenUndMelden(const QString& Pfad, const QByteArray& Inhalt) {
     const QString Name = Pfad == Unbenannt ? Unbenannt + QStringLiteral(".txt") : Pfad;
     if (const int Fehler = UngespeichertesRetten(Name, Inhalt))
         qWarning().noquote() << "Keine Rettungskopie von" << Name << "-" << FehlerUrsache(Fehler);
+    // Nobody is there to read a box; the session may be the one that takes the copy with it.
+    if (const QString Hinweis = AusweichhinweisAbholen(); !Hinweis.isEmpty())
+        qWarning().noquote() << Hinweis;
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "frame/Zwischenablage.h"
 
+#include "grading/Bildfeld.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -81,6 +83,18 @@ void AusAblage(QLabel& Feld) {
     Feld.setPixmap(Ablage().pixmap());
 }
 
+void InAblage(Bildfeld& Feld) {
+    Ablage().setPixmap(Feld.Bild());
+}
+
+void Entfernen(Bildfeld& Feld) {
+    Feld.BildZeigen({});
+}
+
+void AusAblage(Bildfeld& Feld) {
+    Feld.BildZeigen(Ablage().pixmap());
+}
+
 void InAblage(const QListWidget& Feld) {
     if (const QListWidgetItem* Eintrag = Feld.currentItem())
         TextAblegen(Eintrag->text());
@@ -108,6 +122,8 @@ void AmAktiven(Aktion Tat) {
         Tat(*Kombination);
     else if (auto* Bild = qobject_cast<QLabel*>(Aktiv))
         Tat(*Bild);
+    else if (auto* Gemaltes = qobject_cast<Bildfeld*>(Aktiv))
+        Tat(*Gemaltes);
     else if (auto* Liste = qobject_cast<QListWidget*>(Aktiv))
         Tat(*Liste);
 }

@@ -1,8 +1,8 @@
 #include "frame/frmAbout.h"
 
+#include "controls/Sinnbilder.h"
 #include "core/Meldungen.h"
 #include "frame/Programmname.h"
-#include "frame/Sinnbilder.h"
 #include "ui_frmAbout.h"
 
 namespace {
@@ -18,7 +18,7 @@ frmAbout::frmAbout(QWidget* Eltern)
     : QDialog(Eltern)
     , ui(std::make_unique<Ui::frmAbout>()) {
     ui->setupUi(this);
-    ui->picIcon->setPixmap(Sinnbild(QStringLiteral("tafelquell")).pixmap(48, 48));
+    ui->picIcon->setPixmap(Programmsinnbild().pixmap(48, 48));
     ui->lblTitle->setText(Programmname);
     ui->lblVersion->setText(VersionsText());
     connect(ui->cmdOK, &QPushButton::clicked, this, &QDialog::accept);

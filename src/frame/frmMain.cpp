@@ -12,7 +12,7 @@
 #include "core/Fehlerfang.h"
 #include "core/Parameterdatei.h"
 #include "core/Rettung.h"
-#include "core/Zahlen.h"
+#include "core/Rettungsorte.h"
 #include "frame/Ansichten.h"
 #include "frame/Fensterlage.h"
 #include "frame/Hinweiszeile.h"
@@ -75,9 +75,7 @@ void frmMain::Laden() {
 
 void frmMain::LetzteDateiLaden() {
     const QString Pfad = AutoDatei();
-    const bool Automatisch =
-        WahrheitLesen(EinstellungLesen(QStringLiteral("AutoLaden"), QStringLiteral("True")));
-    if (Automatisch && Pfad != Unbenannt) {
+    if (AutoLaden() && Pfad != Unbenannt) {
         if (!LadeDatenbank(Pfad))
             DatenbankWiederherstellen(Pfad);
     } else {
@@ -125,7 +123,7 @@ void frmMain::AnsichtAktualisieren() {
     findChild<QMenu*>(QStringLiteral("mnuFormulierungen"))->menuAction()->setVisible(Nummer == Reiter::B);
     EintragErlauben(QStringLiteral("mnuFileExport"), AnsichtExportiert(Nummer));
     EintragErlauben(QStringLiteral("mnuFileImport"), false);
-    picAnsicht.at(Nummer)->Fuellen();
+    AnsichtHolen(Nummer).Fuellen();
     Hinweis({});
 }
 
@@ -138,11 +136,13 @@ Art* frmMain::Sicht() const {
 }
 
 void frmMain::LernbereicheFuellen() {
-    Sicht<AnsichtB>()->LernbereicheFuellen();
+    if (auto* Eine = Sicht<AnsichtB>()) // a view that is built later fills itself
+        Eine->LernbereicheFuellen();
 }
 
 void frmMain::FormulierungenFuellen() {
-    Sicht<AnsichtB>()->FormulierungenFuellen();
+    if (auto* Eine = Sicht<AnsichtB>())
+        Eine->FormulierungenFuellen();
 }
 
 void frmMain::EintragErlauben(const QString& Name, bool Erlaubt) {
@@ -155,6 +155,7 @@ void frmMain::BefehlAusfuehren(const Menueintrag& Eintrag) {
     if (Eintrag.Zuvor == Fokus::Nehmen)
         FokusNehmen();
     Ausfuehren([this, &Eintrag] { Eintrag.Ablauf(*this); });
+    AusweichhinweisZeigen();
 }
 
 void frmMain::Beenden() {
@@ -198,6 +199,7 @@ void frmMain::closeEvent(QCloseEvent* Ereignis) {
     // At this point the end is settled: an answer "Abbrechen" leaves the changes unsaved.
     Ausfuehren([] { FrageSpeichern(); });
     Ausfuehren([] { FormulierungenAbfrage(); });
+    AusweichhinweisZeigen();
     const auto Fenster = QApplication::topLevelWidgets();
     for (auto Eines = Fenster.crbegin(); Eines != Fenster.crend(); ++Eines)
         if (*Eines != this && (*Eines)->isVisible())
@@ -235,6 +237,9 @@ bool frmMain::event(QEvent* Ereignis) {
             Hinweis(Text);
         return true;
     }
+    // The other views can wait until the first one is to be seen.
+    if (Ereignis->type() == QEvent::Paint && picAnsicht.contains(nullptr))
+        QTimer::singleShot(0, this, &frmMain::UebrigeAnsichtenBauen);
     return QMainWindow::event(Ereignis);
 }
 

@@ -11,6 +11,7 @@ class Hinweiszeile;
 class Kombinationsfeld;
 class QCheckBox;
 class QLabel;
+class QScrollArea;
 class QTabWidget;
 class QTimer;
 struct Leisteneintrag;
@@ -64,7 +65,11 @@ class frmMain : public QMainWindow, public Oberflaeche {
     void StatuszeileBauen();
     QLabel* FeldBauen(const QString& Name, const QString& Bedeutung);
     void ReiterBauen();
-    QWidget* AnsichtBauen(int Nummer);
+    QScrollArea* RollfeldBauen();
+    void AnsichtBauen(int Nummer);
+    Ansicht& AnsichtHolen(int Nummer); ///< of this tab; built now if it has not been wanted before
+    void UebrigeAnsichtenBauen();
+    void LeisteAnsEndeDerReihe();
     void BefehlAusfuehren(const Menueintrag& Eintrag);
     void EintragErlauben(const QString& Name, bool Erlaubt);
     void Hinweis(const QString& Text);
@@ -73,10 +78,10 @@ class frmMain : public QMainWindow, public Oberflaeche {
     void Tick();
     void UhrZeigen();
     template <class Art>
-    Art* Sicht() const; ///< the view of this class
+    Art* Sicht() const; ///< the view of this class; nothing while it is not built
 
     QTabWidget* tabAnsicht = nullptr;
-    QList<Ansicht*> picAnsicht;
+    QList<Ansicht*> picAnsicht; ///< by tab; empty where the view is not built yet
     QToolBar* tbToolBar = nullptr;
     QCheckBox* cbPassbild = nullptr;
     Kombinationsfeld* cbJahrgang = nullptr;

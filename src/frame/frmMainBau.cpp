@@ -2,6 +2,7 @@
 
 #include "controls/Ansicht.h"
 #include "controls/Kombinationsfeld.h"
+#include "controls/Sinnbilder.h"
 #include "core/Datum.h"
 #include "core/Definitionen.h"
 #include "core/Fehlerfang.h"
@@ -10,7 +11,6 @@
 #include "frame/Hinweiszeile.h"
 #include "frame/Menue.h"
 #include "frame/Reiterfeld.h"
-#include "frame/Sinnbilder.h"
 #include "frame/Zwischenablage.h"
 #include "frame/frmMain.h"
 
@@ -25,8 +25,9 @@ void frmMain::ReiterBauen() {
     tabAnsicht = new Reiterfeld(this);
     tabAnsicht->setObjectName(QStringLiteral("tabAnsicht"));
     tabAnsicht->setAccessibleName(QStringLiteral("Ansichten"));
+    picAnsicht.resize(AnzahlAnsichten);
     for (int Nummer = 0; Nummer < AnzahlAnsichten; ++Nummer)
-        tabAnsicht->addTab(AnsichtBauen(Nummer), AnsichtTitel(Nummer));
+        tabAnsicht->addTab(RollfeldBauen(), AnsichtTitel(Nummer));
     setCentralWidget(tabAnsicht);
     connect(tabAnsicht, &QTabWidget::currentChanged, this, [this] {
         if (FormularBereit)
@@ -35,21 +36,45 @@ void frmMain::ReiterBauen() {
 }
 
 /// A view that needs more room than a small or much enlarged screen has can be scrolled; nothing is cut off.
-QWidget* frmMain::AnsichtBauen(int Nummer) {
+QScrollArea* frmMain::RollfeldBauen() {
+    auto* Rollfeld = new QScrollArea;
+    Rollfeld->setFrameShape(QFrame::NoFrame);
+    Rollfeld->setFocusPolicy(Qt::NoFocus);
+    Rollfeld->setWidgetResizable(true);
+    return Rollfeld;
+}
+
+void frmMain::AnsichtBauen(int Nummer) {
     Ansicht* Neue = AnsichtErzeugen(Nummer);
     Neue->setObjectName(QStringLiteral("picAnsicht_%1").arg(Nummer));
     connect(Neue, &Ansicht::HinweisGewuenscht, this, &frmMain::Hinweis);
     connect(Neue, &Ansicht::AktualisierenGewuenscht, this, &frmMain::AnsichtAktualisieren);
     connect(Neue, &Ansicht::ImportErlaubt, this,
             [this](bool Erlaubt) { EintragErlauben(QStringLiteral("mnuFileImport"), Erlaubt); });
-    picAnsicht.append(Neue);
+    qobject_cast<QScrollArea*>(tabAnsicht->widget(Nummer))->setWidget(Neue);
+    picAnsicht[Nummer] = Neue;
+    LeisteAnsEndeDerReihe();
+}
 
-    auto* Rollfeld = new QScrollArea;
-    Rollfeld->setFrameShape(QFrame::NoFrame);
-    Rollfeld->setFocusPolicy(Qt::NoFocus);
-    Rollfeld->setWidgetResizable(true);
-    Rollfeld->setWidget(Neue);
-    return Rollfeld;
+Ansicht& frmMain::AnsichtHolen(int Nummer) {
+    if (!picAnsicht.at(Nummer))
+        AnsichtBauen(Nummer);
+    return *picAnsicht.at(Nummer);
+}
+
+void frmMain::UebrigeAnsichtenBauen() {
+    for (int Nummer = 0; Nummer < AnzahlAnsichten; ++Nummer)
+        AnsichtHolen(Nummer);
+}
+
+/// The Tab key leads from the tabs into the view and then to the tool bar. A new view stands at the end of
+/// the chain, so the controls of the tool bar go behind it.
+void frmMain::LeisteAnsEndeDerReihe() {
+    QWidget* Letztes = previousInFocusChain();
+    while (Letztes->focusPolicy() == Qt::NoFocus && Letztes != this)
+        Letztes = Letztes->previousInFocusChain();
+    setTabOrder(Letztes, cbPassbild);
+    setTabOrder(cbPassbild, cbJahrgang);
 }
 
 void frmMain::MenueBauen() {
@@ -106,6 +131,7 @@ void frmMain::KnopfBauen(const Leisteneintrag& Eintrag) {
     const QString Name = QString::fromUtf8(Eintrag.Name);
     QAction* Aktion = tbToolBar->addAction(Sinnbild(Name.toLower()), QString::fromUtf8(Eintrag.Text));
     Aktion->setObjectName(Name);
+    tbToolBar->widgetForAction(Aktion)->setObjectName(Name);
     const QString Befehl = QString::fromUtf8(Eintrag.Befehl);
     auto* Vorbild = Befehl.isEmpty() ? nullptr : findChild<QAction*>(Befehl);
     Aktion->setEnabled(Vorbild && Vorbild->isEnabled());

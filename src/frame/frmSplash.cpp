@@ -1,7 +1,7 @@
 #include "frame/frmSplash.h"
 
+#include "controls/Sinnbilder.h"
 #include "frame/Programmname.h"
-#include "frame/Sinnbilder.h"
 #include "ui_frmSplash.h"
 
 #include <QCoreApplication>
@@ -10,7 +10,7 @@ frmSplash::frmSplash()
     : QFrame(nullptr, Qt::SplashScreen)
     , ui(std::make_unique<Ui::frmSplash>()) {
     ui->setupUi(this);
-    ui->picLogo->setPixmap(Sinnbild(QStringLiteral("tafelquell")).pixmap(96, 96));
+    ui->picLogo->setPixmap(Programmsinnbild().pixmap(96, 96));
     ui->lblProductName->setText(Programmname);
     ui->lblVersion->setText(VersionsText());
 }

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <QPixmap>
 #include <QWidget>
 
 #include <functional>
 
 class Zeichenflaeche;
 
-/// A picture box: white like paper whatever the palette, and on it what was drawn last, at every size.
+/// A picture box: white like paper whatever the palette, and on it what was drawn last, at every size. A
+/// click makes it the active control, so that its picture can be copied.
 class Bildfeld : public QWidget {
     Q_OBJECT
 
@@ -17,9 +19,15 @@ class Bildfeld : public QWidget {
     /// it holds its values itself.
     void Zeichnen(std::function<void(Zeichenflaeche&)> NeueZeichnung);
 
+    /// What it shows now.
+    QPixmap Bild();
+    /// Shows this picture until the next drawing, made smaller if it does not fit; white if it is null.
+    void BildZeigen(const QPixmap& NeuesBild);
+
   protected:
     void paintEvent(QPaintEvent* Ereignis) override;
 
   private:
     std::function<void(Zeichenflaeche&)> Zeichnung;
+    QPixmap Gezeigtes; ///< while there is no drawing
 };

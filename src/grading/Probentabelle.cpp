@@ -44,17 +44,6 @@ Eintrag EintragSuchen(qint32 ID, qint32 Fach_ID, int Probe_ID) {
     return Index < 0 ? Eintrag{} : EintragDer(Datenbank.Noten[Index], Probe_ID);
 }
 
-/// The rows of a subject by student, for one run over many of them. The first row of a student counts.
-QHash<qint32, int> NotenzeilenDesFachs(qint32 Fach_ID) {
-    QHash<qint32, int> Zeilen;
-    for (int i = 0; i < Datenbank.AnzNoten; ++i) {
-        const Notenzeile& Zeile = Datenbank.Noten[i];
-        if (Zeile.Fach_ID == Fach_ID && !Zeilen.contains(Zeile.Schueler_ID))
-            Zeilen.insert(Zeile.Schueler_ID, i);
-    }
-    return Zeilen;
-}
-
 /// Writes the names behind the IDs with one run over the students.
 void NamenEintragen(std::vector<Probenteilnehmer>& Teilnehmer) {
     constexpr int Offen = -1;
@@ -140,7 +129,7 @@ bool TeilnehmerStehenNoch(const std::vector<Probenteilnehmer>& Teilnehmer, qint3
 
 void NotenSpeichern(const std::vector<qint32>& IDs, const std::vector<Zeilenergebnis>& Ergebnisse,
                     qint32 Fach_ID, int Probe_ID) {
-    const QHash<qint32, int> Zeilen = NotenzeilenDesFachs(Fach_ID);
+    const QHash<qint32, int> Zeilen = ErsteNotenzeilen(Fach_ID);
     for (std::size_t i = 0; i < IDs.size(); ++i) {
         if (!Ergebnisse[i].Note)
             continue;

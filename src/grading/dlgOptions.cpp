@@ -104,7 +104,7 @@ void dlgOptions::TabellenEinrichten() {
 
 void dlgOptions::Verbinden() {
     for (const Pruefbox& Box : Pruefboxen)
-        connect(Box.Feld, &Textfeld::Verlassen, this, [this, Box] { Geprueft(Box); });
+        connect(Box.Feld, &Textfeld::Verlassen, this, [this, Box] { Pruefen(Box); });
 
     const auto Gewaehlt = [this](QRadioButton* Knopf, auto Aktion) {
         connect(Knopf, &QRadioButton::toggled, this, [this, Aktion](bool An) {
@@ -235,36 +235,27 @@ void dlgOptions::LeisteDerSeiteZeigen() {
     Leisten[static_cast<std::size_t>(Seite)]->Zeigen();
 }
 
-/// True if the text was good. A bad one has been replaced and reported.
-bool dlgOptions::Geprueft(const Pruefbox& Box) {
+/// A bad text is replaced and reported.
+void dlgOptions::Pruefen(const Pruefbox& Box) {
     const Optionspruefung Ergebnis = OptionPruefen(Box.Was, Box.Feld->text());
     Box.Feld->setText(Ergebnis.Text);
     if (Ergebnis.Meldung.isEmpty())
-        return true;
-    Beanstandet = true;
+        return;
     MeldungZeigen(Ergebnis.Meldung);
-    // The click that left the box still presses its button, but the message has swallowed the release.
+    // A click that left the box has lost its release to the message; it counts all the same.
     const auto Danach = [this] {
-        Beanstandet = false;
         for (QPushButton* Knopf : {Form->btOK, Form->btAbbruch})
-            Knopf->setDown(false);
+            if (Knopf->isDown())
+                Knopf->click();
     };
     QMetaObject::invokeMethod(this, Danach, Qt::QueuedConnection);
-    return false;
 }
 
-/// Return reaches the button without leaving the box.
-bool dlgOptions::FokusfeldGeprueft() {
-    for (const Pruefbox& Box : Pruefboxen)
-        if (Box.Feld->hasFocus() && !Geprueft(Box))
-            return false;
-    return true;
-}
-
-/// A value that has just been replaced stays before the user's eyes: the dialog ends with the next OK.
+/// A box that still has the focus, as after Return, is checked first; what it was reset to counts.
 void dlgOptions::Uebernehmen() {
-    if (Beanstandet || !FokusfeldGeprueft())
-        return;
+    for (const Pruefbox& Box : Pruefboxen)
+        if (Box.Feld->hasFocus())
+            Pruefen(Box);
     Optionen Neue = OptionenInKraft();
     FelderLesen(Neue);
     TabellenAusZeilen(WerteZeilen(*Form->tblBLLVVerteilung), MaxNote, Neue);

@@ -45,8 +45,7 @@ class dlgOptions : public QDialog {
     void NotensystemGewaehlt(int Index);
     void MethodeGewaehlt();
     void LeisteDerSeiteZeigen();
-    bool Geprueft(const Pruefbox& Box);
-    bool FokusfeldGeprueft();
+    void Pruefen(const Pruefbox& Box);
     void Uebernehmen();
 
     std::unique_ptr<Ui::dlgOptions> Form;
@@ -55,5 +54,4 @@ class dlgOptions : public QDialog {
     std::array<Pruefbox, 6> Pruefboxen{};
     std::array<Verteilungsleiste*, 3> Leisten{};
     bool Laedt = false;
-    bool Beanstandet = false; ///< a box has just been refused; the click that left it does no more
 };

@@ -1,8 +1,8 @@
 #include "photos/Passbild.h"
 
+#include "core/AutoDatei.h"
 #include "core/Definitionen.h"
 #include "core/Einstellungen.h"
-#include "core/Zahlen.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -15,14 +15,13 @@ bool TaugtAlsPfadteil(const QString& Teil) {
 }
 
 bool PassbilderMoeglich(const QString& Datei) {
-    return Datei != Unbenannt &&
-           WahrheitLesen(EinstellungLesen(QStringLiteral("AutoLaden"), WahrheitText(true)));
+    return Datei != Unbenannt && AutoLaden();
 }
 
 } // namespace
 
 QString PassbildPfad(const Schueler& Einer, const QString& Name) {
-    const QString Datei = EinstellungLesen(QStringLiteral("AutoDatei"), Unbenannt);
+    const QString Datei = AutoDatei();
     QString Jahr = Einer.Jahr;
     if (Jahr.size() > 4)
         Jahr[4] = u'-';

@@ -15,7 +15,7 @@ class QWidget;
 /// A class typed into a class combo becomes a class, after a question if Fragen; then its entry is selected.
 /// A text without a digit is no class and stays as it is. Fuellen refills the combo from the records; without
 /// it the entry is added.
-void KlasseAnlegen(Kombinationsfeld& Klassen, bool Fragen = true, const std::function<void()>& Fuellen = {});
+void KlasseAnlegen(Kombinationsfeld& Klassen, bool Fragen, const std::function<void()>& Fuellen = {});
 
 /// The wizard for a new subject, preset with class and name. True if the subject was created: AktFachID is
 /// its ID then, NeueKlasseName and NeuesFachName what was typed. DialogErgebnis says the same.

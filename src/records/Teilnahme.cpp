@@ -1,27 +1,11 @@
 #include "records/Teilnahme.h"
 
 #include "core/Definitionen.h"
-
-#include <QHash>
-
-namespace {
-
-/// First row of each student in the subject.
-QHash<qint32, int> ZeilenDesFachs(qint32 Fach_ID) {
-    QHash<qint32, int> Zeilen;
-    for (int i = 0; i < Datenbank.AnzNoten; ++i) {
-        const Notenzeile& Zeile = Datenbank.Noten[i];
-        if (Zeile.Fach_ID == Fach_ID && !Zeilen.contains(Zeile.Schueler_ID))
-            Zeilen.insert(Zeile.Schueler_ID, i);
-    }
-    return Zeilen;
-}
-
-} // namespace
+#include "core/FktSpeziell.h"
 
 std::vector<QString> TeilnahmeNachBedingung(qint32 Fach_ID, const std::vector<Feldwert>& Werte,
                                             const QString& Vergleich) {
-    const QHash<qint32, int> Zeilen = ZeilenDesFachs(Fach_ID);
+    const QHash<qint32, int> Zeilen = ErsteNotenzeilen(Fach_ID);
     std::vector<QString> Gesetzt;
     Gesetzt.reserve(Werte.size());
     for (const Feldwert& Wert : Werte) {

@@ -54,7 +54,7 @@ AnsichtS::AnsichtS(QWidget* Eltern)
 
     cbSKlasse->setSortiert(true);
     connect(cbSKlasse, &Kombinationsfeld::Klick, this, [this] { Ausfuehren([this] { KlasseGewaehlt(); }); });
-    connect(cbSKlasse, &Kombinationsfeld::Anlegen, this, [this] { KlasseAnlegen(*cbSKlasse); });
+    connect(cbSKlasse, &Kombinationsfeld::Anlegen, this, [this] { KlasseAnlegen(*cbSKlasse, true); });
     connect(cbSKlasse, &Kombinationsfeld::Betreten, this,
             [this] { Q_EMIT HinweisGewuenscht(HinweisKlasse); });
 
@@ -77,6 +77,7 @@ void AnsichtS::GitterEinrichten() {
     tblSSchueler->setFixedRows(2);
     tblSSchueler->setFixedCols(1);
     tblSSchueler->setMergeRow(0, true);
+    tblSSchueler->setTextMatrix(1, 0, QStringLiteral("Schüler"));
 }
 
 void AnsichtS::Fuellen() {
@@ -142,7 +143,6 @@ void AnsichtS::KopfFuellen() {
     AnzTeilnahmeSpalten = Liste->Faecherzahl();
     const int P = AnzTeilnahmeSpalten;
     tblSSchueler->setCols(1 + P + AnzFelder);
-    tblSSchueler->setTextMatrix(1, 0, QStringLiteral("Schüler"));
     for (int j = 1; j <= P; ++j) {
         const Fachspalte& Spalte = Liste->Faecher[static_cast<std::size_t>(j - 1)];
         tblSSchueler->setTextMatrix(0, j, QStringLiteral("Teilnahme"));

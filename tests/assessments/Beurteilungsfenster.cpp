@@ -20,15 +20,6 @@ Beurteilungsfenster::Beurteilungsfenster() {
     QCoreApplication::processEvents();
 }
 
-void Beurteilungsfenster::BereichAnlegen(const QString& Name, const QStringList& Zeilen) {
-    Lernbereich& Neuer = Lernbereiche[AnzLernbereiche];
-    Neuer.Name = Name;
-    Neuer.Anzahl = 0;
-    for (const QString& Zeile : Zeilen)
-        Neuer.Formulierung[Neuer.Anzahl++] = Zeile;
-    Lernbereiche[++AnzLernbereiche].Anzahl = 0;
-}
-
 void Beurteilungsfenster::RecordsAnlegen() {
     TestbuchLaden(QStringLiteral("Klasse 7a\nKlasse 7b\n"
                                  "Schueler 10000 7a Bauer Anna\n"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Lernbereichsprobe.h"
 #include "assessments/AnsichtB.h"
 #include "assessments/Formulierungstabelle.h"
 #include "assessments/Lernbereichsbaum.h"
@@ -20,7 +21,6 @@ class Beurteilungsfenster {
     Beurteilungsfenster();
 
     static void RecordsAnlegen();
-    static void BereichAnlegen(const QString& Name, const QStringList& Zeilen);
 
     template <class Art>
     Art& Feld(const char* Name) const {

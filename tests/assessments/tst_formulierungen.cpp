@@ -1,5 +1,6 @@
 #include "assessments/Formulierungen.h"
 
+#include "Lernbereichsprobe.h"
 #include "common/Testprogramm.h"
 #include "common/Testwelt.h"
 #include "core/Definitionen.h"
@@ -102,12 +103,6 @@ void SettingSetzen(const QString& Pfad) {
     EinstellungSchreiben(QStringLiteral("Formulierungen"), Pfad);
 }
 
-void BereichAnlegen(const QString& Name) {
-    Lernbereiche[AnzLernbereiche].Name = Name;
-    Lernbereiche[AnzLernbereiche].Anzahl = 0;
-    Lernbereiche[++AnzLernbereiche].Anzahl = 0;
-}
-
 QStringList Namen() {
     QStringList Alle;
     for (int i = 0; i < AnzLernbereiche; ++i)
@@ -135,7 +130,7 @@ class FormulierungenTest : public QObject {
     QString GeaenderterSpeicher() {
         const QString Pfad = Datei("a.txt", "[Alt]\r\n");
         SettingSetzen(Pfad);
-        BereichAnlegen(QStringLiteral("Neu"));
+        BereichAnlegen(QStringLiteral("Neu"), {});
         FormulierungenGeaendert = true;
         return Pfad;
     }
@@ -161,7 +156,7 @@ class FormulierungenTest : public QObject {
     // Loading
 
     void LoadingReplacesStoreAndCurrentFile() {
-        BereichAnlegen(QStringLiteral("Alt"));
+        BereichAnlegen(QStringLiteral("Alt"), {});
         FormulierungenGeaendert = true;
         const QString Pfad = Datei("a.txt", "[A]\r\n[B]\r\n");
         QVERIFY(FormulierungenLaden(Pfad, false));
@@ -171,7 +166,7 @@ class FormulierungenTest : public QObject {
     }
 
     void AddingKeepsCurrentFileAndCountsAsChange() {
-        BereichAnlegen(QStringLiteral("A"));
+        BereichAnlegen(QStringLiteral("A"), {});
         SettingSetzen(QStringLiteral("/alt.txt"));
         QVERIFY(FormulierungenLaden(Datei("b.txt", "[A]\r\n"), true));
         QCOMPARE(Namen(), Namensliste("A|A"));
@@ -180,7 +175,7 @@ class FormulierungenTest : public QObject {
     }
 
     void AMissingFileIsReported() {
-        BereichAnlegen(QStringLiteral("A"));
+        BereichAnlegen(QStringLiteral("A"), {});
         const QString Pfad = Welt.Pfad(QStringLiteral("fehlt.txt"));
         Welt.Boxen.ErwarteMeldung(QStringLiteral("Die BeurteilungsFormulierungen-Datei ") + Pfad +
                                   QStringLiteral(" konnte nicht gefunden werden!"));
@@ -190,7 +185,7 @@ class FormulierungenTest : public QObject {
     }
 
     void AWrongFirstLineIsReportedAndLeavesAnEmptyStore() {
-        BereichAnlegen(QStringLiteral("A"));
+        BereichAnlegen(QStringLiteral("A"), {});
         FormulierungenGeaendert = true;
         SettingSetzen(QStringLiteral("/alt.txt"));
         const QString Pfad = Welt.DateiAnlegen(QStringLiteral("x.txt"), "[Tafelquell 3.0]\r\n");
@@ -203,7 +198,7 @@ class FormulierungenTest : public QObject {
     }
 
     void AWrongFirstLineWhenAddingLeavesTheStoreButMarksIt() {
-        BereichAnlegen(QStringLiteral("A"));
+        BereichAnlegen(QStringLiteral("A"), {});
         Welt.Boxen.ErwarteMeldung(QString());
         QVERIFY(!FormulierungenLaden(Welt.DateiAnlegen(QStringLiteral("x.txt"), "x\r\n"), true));
         QCOMPARE(Namen(), Namensliste("A"));
@@ -247,7 +242,7 @@ class FormulierungenTest : public QObject {
     }
 
     void DamageWhileAddingKeepsWhatWasReadAndTheFlag() {
-        BereichAnlegen(QStringLiteral("A"));
+        BereichAnlegen(QStringLiteral("A"), {});
         QByteArray Zeilen;
         for (int i = 0; i < 99; ++i)
             Zeilen += "[x]\r\n";
@@ -338,7 +333,7 @@ class FormulierungenTest : public QObject {
     }
 
     void ThePromptWithoutAFileAsksForOne() {
-        BereichAnlegen(QStringLiteral("Neu"));
+        BereichAnlegen(QStringLiteral("Neu"), {});
         FormulierungenGeaendert = true;
         const QString Pfad = Welt.Pfad(QStringLiteral("neu.txt"));
         Welt.Boxen.ErwarteFrage(Frage(QStringLiteral("Unbenannt")), Antwort::Ja);
@@ -429,7 +424,7 @@ class FormulierungenTest : public QObject {
     }
 
     void OpenCancelledInTheDialogLeavesAll() {
-        BereichAnlegen(QStringLiteral("Alt"));
+        BereichAnlegen(QStringLiteral("Alt"), {});
         Welt.Boxen.ErwarteOeffnen(QStringLiteral("Öffnen"), std::nullopt);
         FormulierungenOeffnen();
         QCOMPARE(Namen(), Namensliste("Alt"));
@@ -479,7 +474,7 @@ class FormulierungenTest : public QObject {
     }
 
     void SaveWithoutAFileIsSaveAs() {
-        BereichAnlegen(QStringLiteral("Neu"));
+        BereichAnlegen(QStringLiteral("Neu"), {});
         const QString Pfad = Welt.Pfad(QStringLiteral("neu.txt"));
         Welt.Boxen.ErwarteSpeichern(Speichern, Dateiwahl{Pfad});
         QVERIFY(FormulierungenSpeichern());
@@ -529,7 +524,7 @@ class FormulierungenTest : public QObject {
 
     void AFailedSaveCanGoToAnotherName() {
         SettingSetzen(Welt.Pfad(QStringLiteral("kein/Ordner.txt")));
-        BereichAnlegen(QStringLiteral("Neu"));
+        BereichAnlegen(QStringLiteral("Neu"), {});
         const QString Neu = Welt.Pfad(QStringLiteral("neu.txt"));
         Welt.Boxen.ErwarteAuswahl(QString(), 0); // once more
         Welt.Boxen.ErwarteAuswahl(QString(), 1);

@@ -435,7 +435,7 @@ class FormulierungsansichtTest : public QObject {
     }
 
     void A201stPhraseIsRefusedWithAMessage() {
-        F->BereichAnlegen(QStringLiteral("D"), VieleZeilen(200));
+        BereichAnlegen(QStringLiteral("D"), VieleZeilen(200));
         NeuFuellen();
         F->KlickAufKnoten(3);
         Welt.Boxen.ErwarteMeldung(QStringLiteral("Ein Lernbereich fasst höchstens 200 Formulierungen!"));
@@ -448,7 +448,7 @@ class FormulierungsansichtTest : public QObject {
 
     void AHundredthAreaIsRefusedWithAMessage() {
         for (int i = 3; i < 99; ++i)
-            F->BereichAnlegen(QStringLiteral("X%1").arg(i), {});
+            BereichAnlegen(QStringLiteral("X%1").arg(i), {});
         NeuFuellen();
         F->KlickAufKnoten(99);
         F->Baum().setCurrentItem(F->Baum().topLevelItem(99));
@@ -641,7 +641,7 @@ class FormulierungsansichtTest : public QObject {
 
     void TheHundredthNameIsRefused() {
         for (int i = 3; i < 99; ++i)
-            F->BereichAnlegen(QStringLiteral("X%1").arg(i), {});
+            BereichAnlegen(QStringLiteral("X%1").arg(i), {});
         NeuFuellen();
         Welt.Boxen.ErwarteMeldung(QStringLiteral("Es sind höchstens 99 Lernbereiche möglich!"));
         F->Baum().Beschriftet(99, QStringLiteral("neu"));

@@ -1,20 +1,12 @@
 #include "assessments/Formulierungsspeicher.h"
 
+#include "Lernbereichsprobe.h"
 #include "common/Testprogramm.h"
 #include "common/Testwelt.h"
 
 #include <QtTest>
 
 namespace {
-
-void BereichAnlegen(const QString& Name, const QStringList& Zeilen) {
-    Lernbereich& Neuer = Lernbereiche[AnzLernbereiche];
-    Neuer.Name = Name;
-    Neuer.Anzahl = 0;
-    for (const QString& Zeile : Zeilen)
-        Neuer.Formulierung[Neuer.Anzahl++] = Zeile;
-    Lernbereiche[++AnzLernbereiche].Anzahl = 0;
-}
 
 QStringList Zeilen(int Bereich) {
     QStringList Alle;

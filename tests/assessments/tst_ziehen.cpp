@@ -281,7 +281,7 @@ class ZiehenTest : public QObject {
         QStringList Zeilen;
         for (int i = 0; i < 200; ++i)
             Zeilen.append(QStringLiteral("o %1").arg(i));
-        F->BereichAnlegen(QStringLiteral("D"), Zeilen);
+        BereichAnlegen(QStringLiteral("D"), Zeilen);
         F->Ansicht->LernbereicheFuellen();
         F->Floskeln().setCell(1, 0);
         Welt.Boxen.ErwarteMeldung(QStringLiteral("Ein Lernbereich fasst höchstens 200 Formulierungen!"));

@@ -73,10 +73,10 @@ QString FremdschuelerRundreise(const QByteArray& Bytes) {
 
 QString ParameterRundreise(const QByteArray& Bytes) {
     BLLVVerteilung = {};
-    if (!ParameterLesen(Bytes).isEmpty())
+    if (!ParameterLesen(Bytes).Ablehnung.isEmpty())
         return {};
     const QByteArray Geschrieben = ParameterBytes();
-    if (!ParameterLesen(Geschrieben).isEmpty())
+    if (!ParameterLesen(Geschrieben).Ablehnung.isEmpty())
         return QStringLiteral("das Geschriebene wird abgelehnt");
     if (ParameterBytes() != Geschrieben)
         return QStringLiteral("zweimal geschrieben ist nicht dasselbe");

@@ -2,8 +2,10 @@
 
 #include "core/Definitionen.h"
 #include "core/Eingabezaehler.h"
+#include "core/Einstellungen.h"
 #include "core/Oberflaeche.h"
 #include "core/Orte.h"
+#include "core/Rettungsorte.h"
 #include "core/Uhr.h"
 #include "core/Zahlen.h"
 
@@ -91,9 +93,12 @@ void Testwelt::Herstellen() {
     // QSettings asks for XDG_CONFIG_HOME only once in a process, so the path is set by its own means.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                        Temp->filePath(QStringLiteral("config")));
+    EinstellungenVergessen();
     QDir(Temp->path()).mkpath(QStringLiteral("programm"));
     ProgrammverzeichnisSetzen(Temp->filePath(QStringLiteral("programm")));
     ZustandsverzeichnisSetzen(Temp->filePath(QStringLiteral("zustand")));
+    qunsetenv("XDG_RUNTIME_DIR"); // no second place for rescue copies, unless a test makes one
+    AusweichhinweisVergessen();
     UhrStellen(QDateTime(QDate(2003, 10, 12), QTime(10, 30)));
     SystemSpracheSetzen(QLocale(QLocale::German, QLocale::Germany));
     OberflaecheSetzen(nullptr);

@@ -1,9 +1,11 @@
 #include "common/Testprogramm.h"
 #include "common/Testwelt.h"
+#include "common/Unprivilegiert.h"
 
 #include "core/Dateischutz.h"
 #include "core/Orte.h"
 #include "core/Rettungskopf.h"
+#include "core/Rettungsorte.h"
 #include "core/Systemaufrufe.h"
 
 #include <QDir>
@@ -56,21 +58,6 @@ class Datentraeger {
     bool Da = false;
 };
 
-/// The rights of an ordinary user: root may write what is read-only.
-class Unprivilegiert {
-  public:
-    Unprivilegiert() {
-        if (::geteuid() == 0 && ::seteuid(65'534) != 0)
-            qFatal("seteuid");
-    }
-    ~Unprivilegiert() {
-        if (::getuid() == 0 && ::seteuid(0) != 0)
-            qFatal("seteuid");
-    }
-    Unprivilegiert(const Unprivilegiert&) = delete;
-    Unprivilegiert& operator=(const Unprivilegiert&) = delete;
-};
-
 } // namespace
 
 #define BRAUCHT_DATENTRAEGER(Name, Pfad)                                                                     \
@@ -96,9 +83,17 @@ class TestDateischutzEcht : public QObject {
     void EineUnveraenderlicheDateiBleibt();
     void FehlendeRechteWerdenGenannt();
     void EinVollerRettungsordnerLaesstDenAltenInhalt();
+    void EinVollerRettungsordnerHatEinenErsatz();
+    void EinVerschlossenerRettungsordnerHatEinenErsatz();
     void EineGrenzeDerDateigroesseBeendetDasProgrammNicht();
 
   private:
+    /// A second place for rescue copies.
+    void LaufzeitordnerStellen() const {
+        const QString Ordner = Welt.Pfad(QStringLiteral("laufzeit"));
+        QDir().mkdir(Ordner, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(Ordner));
+    }
     void Abgelehnt(const QString& Pfad, const QByteArray& Inhalt, Dateifehler::Art Grund,
                    const QString& Ursache);
     Testwelt Welt;
@@ -184,9 +179,7 @@ void TestDateischutzEcht::FehlendeRechteWerdenGenannt() {
     const QString Pfad = Welt.DateiAnlegen(QStringLiteral("buch.txt"), Alt);
     QFile::setPermissions(Pfad, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
     Zustandsverzeichnis();
-    for (const QString& Ordner : {Welt.Ordner(), Zustandsverzeichnis()})
-        QFile::setPermissions(Ordner, QFile::Permissions(0x7777));
-    const Unprivilegiert Benutzer;
+    const Unprivilegiert Benutzer(Welt.Ordner());
     Abgelehnt(Pfad, Gross, Dateifehler::Art::KeinZugriff, QStringLiteral("kein Zugriff erlaubt"));
 }
 
@@ -200,6 +193,30 @@ void TestDateischutzEcht::EinVollerRettungsordnerLaesstDenAltenInhalt() {
     QVERIFY2(Fehler->Text.contains(QStringLiteral("der Datenträger ist voll")), qPrintable(Fehler->Text));
     QCOMPARE(Testwelt::DateiInhalt(Pfad), Alt);
     QCOMPARE(QDir(Zustandsverzeichnis()).entryList(QDir::Files), QStringList(QStringLiteral("ballast")));
+}
+
+void TestDateischutzEcht::EinVollerRettungsordnerHatEinenErsatz() {
+    BRAUCHT_DATENTRAEGER(Platte, Welt.Pfad(QStringLiteral("zustand")));
+    const QString Pfad = Welt.DateiAnlegen(QStringLiteral("buch.txt"), Alt);
+    LaufzeitordnerStellen();
+    Platte.Fuellen();
+    QVERIFY(!DateiSchreiben(Pfad, Gross).has_value());
+    QCOMPARE(Testwelt::DateiInhalt(Pfad), Gross);
+    QVERIFY(AusweichhinweisAbholen().contains(QStringLiteral("(der Datenträger ist voll)")));
+    QCOMPARE(QDir(Zustandsverzeichnis()).entryList(QDir::Files), QStringList(QStringLiteral("ballast")));
+    QCOMPARE(QDir(Welt.Pfad(QStringLiteral("laufzeit/tafelquell"))).entryList(QDir::Files), QStringList());
+}
+
+void TestDateischutzEcht::EinVerschlossenerRettungsordnerHatEinenErsatz() {
+    const QString Pfad = Welt.DateiAnlegen(QStringLiteral("buch.txt"), Alt);
+    LaufzeitordnerStellen();
+    QFile::setPermissions(Zustandsverzeichnis(), QFile::ReadOwner | QFile::ExeOwner);
+    {
+        const Unprivilegiert Benutzer(Welt.Ordner());
+        QVERIFY(!DateiSchreiben(Pfad, Gross).has_value());
+        QVERIFY(AusweichhinweisAbholen().contains(QStringLiteral("(kein Zugriff erlaubt)")));
+    }
+    QCOMPARE(Testwelt::DateiInhalt(Pfad), Gross);
 }
 
 void TestDateischutzEcht::EineGrenzeDerDateigroesseBeendetDasProgrammNicht() {

@@ -41,7 +41,14 @@ struct Ausgangslage {
     const char* Name;
     std::optional<QByteArray> Alt; ///< nothing: the target does not exist
     QByteArray Neu;
-    bool Zustandsordner = true;
+    /// What the rescue copy finds.
+    enum class Ort {
+        Zustand,            ///< the state folder
+        NochKeiner,         ///< no state folder yet
+        ZustandOderZweiter, ///< the state folder, and a second choice
+        NurZweiter,         ///< a state folder that cannot be, and the second choice
+    };
+    Ort Rettung = Ort::Zustand;
 };
 
 // Longer than the buffer for comparing, so that reads and compares are several calls.
@@ -52,7 +59,12 @@ const QList<Ausgangslage>& Lagen() {
         {"waechst", QByteArray("alter Stand"), Langer},
         {"schrumpft", Langer, QByteArray("neuer Stand")},
         {"neue Datei", {}, QByteArray("neuer Stand")},
-        {"ohne Zustandsordner", QByteArray("alter Stand"), QByteArray("neuer Stand, laenger"), false},
+        {"ohne Zustandsordner", QByteArray("alter Stand"), QByteArray("neuer Stand, laenger"),
+         Ausgangslage::Ort::NochKeiner},
+        {"mit zweitem Ordner", QByteArray("alter Stand"), QByteArray("neuer Stand, laenger"),
+         Ausgangslage::Ort::ZustandOderZweiter},
+        {"nur im zweiten Ordner", QByteArray("alter Stand"), QByteArray("neuer Stand, laenger"),
+         Ausgangslage::Ort::NurZweiter},
     };
     return Alle;
 }
@@ -82,6 +94,8 @@ class TestDateischutzStoerungen : public QObject {
     void JederAufrufDesLesensScheitert();
     void JederAufrufDerRettungScheitert();
     void JederAufrufDerRettungIstDerLetzte();
+    void JederAufrufDesHeimholensScheitert();
+    void JederAufrufDesHeimholensIstDerLetzte();
     void EinScheiternVorDemKuerzenLaesstNichtsZurueck();
     void NachDemKuerzenNenntDerFehlerDieRettungskopie();
     void EinFehlerBeimErstenSchreibenWirdDurchNeuschreibenGeheilt();
@@ -96,6 +110,17 @@ class TestDateischutzStoerungen : public QObject {
     void PruefeGanz(const Ausgangslage& Lage, const QString& Wo);
     void FuerAlleFehler(const std::function<bool(const Stoerung&)>& Lauf);
     void Beschaedigen(const Ausgangslage& Lage);
+    /// The state folder is there, as it should be.
+    void ZustandMoeglich() const {
+        ZustandsverzeichnisSetzen(Welt.Pfad(QStringLiteral("zustand")));
+        Zustandsverzeichnis(); // asking for it makes it
+    }
+    /// A target half written, and its copy in the second folder only; the state folder has room again.
+    void NurImZweitenOrdnerGerettet() {
+        Beschaedigen(Lagen().last());
+        QCOMPARE(QDir(Welt.Pfad(QStringLiteral("laufzeit/tafelquell"))).entryList(QDir::Files).size(), 1);
+        ZustandMoeglich();
+    }
 
     Testwelt Welt;
     int Punkte = 0;
@@ -107,13 +132,22 @@ std::optional<QByteArray> TestDateischutzStoerungen::Stand() const {
 }
 
 void TestDateischutzStoerungen::Herrichten(const Ausgangslage& Lage) {
-    QDir(Zustandsverzeichnis()).removeRecursively();
-    if (Lage.Zustandsordner)
-        Zustandsverzeichnis(); // asking for it makes it
-    else
-        ZustandsverzeichnisSetzen(Welt.Pfad(QStringLiteral("tief/unten/zustand")));
-    QDir(Welt.Pfad(QStringLiteral("tief"))).removeRecursively();
+    for (const char* Ordner : {"zustand", "tief", "laufzeit"})
+        QDir(Welt.Pfad(QString::fromLatin1(Ordner))).removeRecursively();
     QFile::remove(Ziel());
+    qunsetenv("XDG_RUNTIME_DIR");
+    ZustandMoeglich();
+    if (Lage.Rettung == Ausgangslage::Ort::NochKeiner)
+        ZustandsverzeichnisSetzen(Welt.Pfad(QStringLiteral("tief/unten/zustand")));
+    if (Lage.Rettung == Ausgangslage::Ort::NurZweiter)
+        ZustandsverzeichnisSetzen(Welt.DateiAnlegen(QStringLiteral("im_weg"), {}) +
+                                  QStringLiteral("/zustand"));
+    if (Lage.Rettung >= Ausgangslage::Ort::ZustandOderZweiter) {
+        const QString Laufzeit = Welt.Pfad(QStringLiteral("laufzeit"));
+        QDir().mkdir(Laufzeit, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(Laufzeit));
+    }
+    QDir(Welt.Pfad(QStringLiteral("tief"))).removeRecursively(); // asking for the name has made it
     if (Lage.Alt)
         Welt.DateiAnlegen(QStringLiteral("buch.txt"), *Lage.Alt);
 }
@@ -358,6 +392,38 @@ void TestDateischutzStoerungen::JederAufrufDerRettungIstDerLetzte() {
                 break;
         }
     }
+}
+
+void TestDateischutzStoerungen::JederAufrufDesHeimholensScheitert() {
+    Punkte = 0;
+    const Ausgangslage Lage = Lagen().last();
+    FuerAlleFehler([&](const Stoerung& Plan) {
+        NurImZweitenOrdnerGerettet();
+        Anbieten(Plan);
+        const bool Getroffen = Stoertafel::Getroffen();
+        Anbieten({});
+        [&] { QCOMPARE(Stand(), std::optional(Lage.Neu)); }();
+        PruefeGanz(Lage, QString::number(Plan.Stelle));
+        return Getroffen && !QTest::currentTestFailed();
+    });
+    qInfo("Fehlerpunkte: %d", Punkte);
+}
+
+void TestDateischutzStoerungen::JederAufrufDesHeimholensIstDerLetzte() {
+    Punkte = 0;
+    const Ausgangslage Lage = Lagen().last();
+    for (const auto Art : {Stoerung::Art::Absturz, Stoerung::Art::HalberAbsturz}) {
+        for (int Stelle = 1;; ++Stelle, ++Punkte) {
+            NurImZweitenOrdnerGerettet();
+            const bool Gestorben = Anbieten({Art, Stelle, false, 0});
+            Anbieten({});
+            QCOMPARE(Stand(), std::optional(Lage.Neu));
+            PruefeGanz(Lage, QString::number(Stelle));
+            if (!Gestorben || QTest::currentTestFailed())
+                break;
+        }
+    }
+    qInfo("Absturzpunkte: %d", Punkte);
 }
 
 void TestDateischutzStoerungen::EinScheiternVorDemKuerzenLaesstNichtsZurueck() {

@@ -29,6 +29,7 @@ class TestRettungskopf : public QObject {
   private Q_SLOTS:
     void DiePruefsummeIstCRC32C();
     void DiePruefsummeLaesstSichFortsetzen();
+    void DiePruefsummeGiltFuerJedeLaenge();
     void EinKopfKommtZurueckWieErGeschriebenWurde();
     void DerInhaltStehtUnveraendertHinterDerLeerzeile();
     void JedesVeraenderteByteMachtDieKopieUngueltig();
@@ -50,6 +51,34 @@ void TestRettungskopf::DiePruefsummeLaesstSichFortsetzen() {
         const quint32 Erster = Pruefsumme(Bytes.constData(), Schnitt);
         QCOMPARE(Pruefsumme(Bytes.constData() + Schnitt, Bytes.size() - Schnitt, Erster),
                  Pruefsumme(Bytes.constData(), Bytes.size()));
+    }
+}
+
+namespace {
+
+/// Bit by bit, as the sum is defined.
+quint32 SummeNachDefinition(const QByteArray& Bytes) {
+    quint32 Wert = ~0U;
+    for (const char Byte : Bytes) {
+        Wert ^= static_cast<uchar>(Byte);
+        for (int Bit = 0; Bit < 8; ++Bit)
+            Wert = (Wert & 1U) != 0U ? (Wert >> 1U) ^ 0x82F63B78U : Wert >> 1U;
+    }
+    return ~Wert;
+}
+
+} // namespace
+
+void TestRettungskopf::DiePruefsummeGiltFuerJedeLaenge() {
+    QByteArray Bytes;
+    quint32 Zufall = 20031012;
+    while (Bytes.size() < 10'000) {
+        Zufall = Zufall * 1664525U + 1013904223U;
+        Bytes.append(static_cast<char>(Zufall >> 24U));
+    }
+    for (const qsizetype Laenge : {1, 7, 8, 9, 1024, 3071, 3072, 3073, 6143, 6144, 6151, 10'000}) {
+        const QByteArray Anfang = Bytes.left(Laenge);
+        QCOMPARE(Pruefsumme(Anfang.constData(), Laenge), SummeNachDefinition(Anfang));
     }
 }
 

@@ -160,6 +160,7 @@ void Dokument::Ja_ohne_Datei_fragt_nach_dem_Namen() {
     QVERIFY(FrageSpeichern());
     QCOMPARE(Welt.Boxen.Wuensche.first().Filter,
              (QList<Dateifilter>{{QStringLiteral("Notendatenbank"), QStringLiteral("*.txt")}}));
+    QCOMPARE(Welt.Boxen.Wuensche.first().Vorgabe, QString());
     QCOMPARE(AutoDatei(), Wahlpfad());
     QVERIFY(Testwelt::DateiInhalt(Wahlpfad()).startsWith("[Tafelquell 3.0]"));
 }

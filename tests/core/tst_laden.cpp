@@ -1,5 +1,6 @@
 #include "Buchdatei.h"
 
+#include "common/Schlechtes.h"
 #include "common/Testoberflaeche.h"
 #include "common/Testprogramm.h"
 #include "common/Testwelt.h"
@@ -372,6 +373,7 @@ class LadenScheitert : public QObject {
     void Fehlende_Datei_meldet_und_legt_neu_an();
     void Ordner_statt_Datei_gilt_als_nicht_gefunden();
     void Scheitern_im_laufenden_Programm_fragt_nicht_nach_Speichern();
+    void Sehr_lange_Zeile_laedt_und_der_Bericht_bleibt_kurz_data();
     void Sehr_lange_Zeile_laedt_und_der_Bericht_bleibt_kurz();
     void Null_Bytes_stoeren_nicht();
     void UTF8_ohne_Kennung_ueberschreibt_das_Original_nicht_ohne_Kopie();
@@ -510,11 +512,8 @@ void LadenScheitert::Fremde_Datei_laesst_den_Speicher_wie_er_war_data() {
     const QByteArray Gut = Kleinbuch();
     QTest::newRow("anderer Text") << QByteArray("Liebe Eltern,\r\n");
     QTest::newRow("Kleinschreibung") << QByteArray("[tafelquell 3.0]\r\n");
-    QTest::newRow("UTF-8 mit Kennung") << QByteArray("\xEF\xBB\xBF" + Gut);
-    QByteArray UTF16("\xFF\xFE");
-    for (const char Zeichen : Gut)
-        UTF16.append(Zeichen).append('\0');
-    QTest::newRow("UTF-16") << UTF16;
+    QTest::newRow("UTF-8 mit Kennung") << InUtf8MitMarke(Gut);
+    QTest::newRow("UTF-16") << InUtf16(Gut);
     QTest::newRow("Null-Bytes am Anfang") << QByteArray(QByteArray(16, '\0') + Gut);
 }
 
@@ -569,8 +568,17 @@ void LadenScheitert::Scheitern_im_laufenden_Programm_fragt_nicht_nach_Speichern(
     QVERIFY(Fenster.Gerufen.contains(QStringLiteral("Ansicht")));
 }
 
+void LadenScheitert::Sehr_lange_Zeile_laedt_und_der_Bericht_bleibt_kurz_data() {
+    QTest::addColumn<int>("Laenge");
+    QTest::newRow("40 MB") << LangeZeile;
+    QTest::newRow("300 MB") << SehrLangeZeile;
+}
+
 void LadenScheitert::Sehr_lange_Zeile_laedt_und_der_Bericht_bleibt_kurz() {
-    const QByteArray Lang(40 << 20, 'x');
+    QFETCH(int, Laenge);
+    if (Laenge == SehrLangeZeile)
+        NUR_IN_DER_LANGEN_FORM();
+    const QByteArray Lang(Laenge, 'x');
     QByteArray Bytes = "[Tafelquell 3.0]\r\n[Klassen]\r\nJahr\tName\r\n" + Lang + "\r\n";
     Welt.Boxen.ErwarteMeldung(Warnungsanfang);
     QVERIFY(LadeDatenbank(Datei(Bytes)));
@@ -592,7 +600,7 @@ void LadenScheitert::Null_Bytes_stoeren_nicht() {
 }
 
 void LadenScheitert::UTF8_ohne_Kennung_ueberschreibt_das_Original_nicht_ohne_Kopie() {
-    const QByteArray UTF8 = QString::fromLatin1(Kleinbuch()).toUtf8();
+    const QByteArray UTF8 = InUtf8(Kleinbuch());
     const QString Pfad = Datei(UTF8);
     QVERIFY(LadeDatenbank(Pfad)); // [Fächer] and [Schüler] are sections nobody knows
     QCOMPARE(Datenbank.AnzSchueler, 0);

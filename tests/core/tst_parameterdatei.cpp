@@ -5,6 +5,7 @@
 #include "core/Einstellungen.h"
 #include "core/Laufzeitfehler.h"
 #include "core/Parameterdatei.h"
+#include "core/Zahlen.h"
 
 #include <QtTest>
 
@@ -28,6 +29,8 @@ class Parameterdatei : public QObject {
     void Falscher_Kopf_wird_abgelehnt_und_laesst_die_Tabellen();
     void Version_2_wird_mit_den_Zeichen_ab_Stelle_18_abgelehnt();
     void Abgelehnte_Datei_wird_vor_dem_Schreiben_bewahrt();
+    void Datei_mit_unlesbaren_Zahlen_wird_vor_dem_Schreiben_bewahrt();
+    void Tabellen_ueberstehen_den_Wechsel_der_Systemsprache();
     void Fehlende_Datei_wirft();
     void Nicht_schreibbar_wirft_und_laesst_die_alte_Datei();
     void MaxNote_kommt_aus_den_Einstellungen_data();
@@ -122,6 +125,34 @@ void Parameterdatei::Keine_Zahl_zaehlt_als_0() {
     QCOMPARE(EigeneVerteilung[0][1], 0.0F);
     QCOMPARE(EigeneVerteilung[0][2], 2.5F);
     QCOMPARE(EigeneVerteilung[0][4], 0.0F);
+}
+
+void Parameterdatei::Datei_mit_unlesbaren_Zahlen_wird_vor_dem_Schreiben_bewahrt() {
+    const QByteArray Beschaedigt = Geliefert().replace("\r\n10\t9\t", "\r\n10\tneun\t");
+    QVERIFY(Beschaedigt != Geliefert());
+    DateiSetzen(Beschaedigt);
+    LadeParameter();
+    SpeichereParameter();
+    const QDir Zustand(Welt.Pfad(QStringLiteral("zustand")));
+    const QStringList Kopien = Zustand.entryList({QStringLiteral("Original-*")});
+    QCOMPARE(Kopien.size(), 1);
+    QCOMPARE(Testwelt::DateiInhalt(Zustand.filePath(Kopien.first())), Beschaedigt);
+}
+
+void Parameterdatei::Tabellen_ueberstehen_den_Wechsel_der_Systemsprache() {
+    SystemSpracheSetzen(QLocale(QLocale::English, QLocale::UnitedStates));
+    LadeParameter();
+    QCOMPARE(BLLVVerteilung[10][1], 7.5F);
+    QCOMPARE(GaussVerteilung[1][2], 52.0F);
+    SpeichereParameter();
+    QVERIFY(Datei().contains("\r\n10\t9\t7.5\t"));
+    QCOMPARE(QDir(Welt.Pfad(QStringLiteral("zustand"))).entryList({QStringLiteral("Original-*")}),
+             QStringList());
+
+    SystemSpracheSetzen(QLocale(QLocale::German, QLocale::Germany));
+    LadeParameter();
+    SpeichereParameter();
+    QCOMPARE(Datei(), Geliefert());
 }
 
 void Parameterdatei::Stufen_ausser_1_bis_13_entfallen() {

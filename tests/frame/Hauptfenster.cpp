@@ -1,7 +1,9 @@
 #include "Hauptfenster.h"
 
+#include "controls/Ansicht.h"
 #include "core/Einstellungen.h"
 #include "core/Orte.h"
+#include "frame/Ansichten.h"
 
 #include <QFile>
 #include <QTimer>
@@ -19,6 +21,14 @@ void Hauptfenster::Starten() {
     Kind<QTimer>("timTimer")->stop();
     Fenster->show();
     QVERIFY(QTest::qWaitForWindowActive(Fenster.get()));
+    QTRY_VERIFY(AlleAnsichtenDa());
+}
+
+bool Hauptfenster::AlleAnsichtenDa() const {
+    for (int Nummer = 0; Nummer < AnzahlAnsichten; ++Nummer)
+        if (!Kind<Ansicht>(qPrintable(QStringLiteral("picAnsicht_%1").arg(Nummer))))
+            return false;
+    return true;
 }
 
 QAction* Hauptfenster::Aktion(const char* Name) const {

@@ -17,6 +17,7 @@ class Hauptfenster {
     static void OrdnerAnlegen();
 
     void Starten();
+    bool AlleAnsichtenDa() const; ///< those besides the first are built after the first picture
     void Schliessen() { Fenster.reset(); }
     frmMain& operator*() const { return *Fenster; }
     frmMain* operator->() const { return Fenster.get(); }

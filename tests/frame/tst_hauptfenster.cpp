@@ -2,6 +2,7 @@
 #include "common/Testbuch.h"
 #include "common/Testprogramm.h"
 #include "controls/Ansicht.h"
+#include "controls/Gitter.h"
 #include "controls/Kombinationsfeld.h"
 #include "controls/Textfeld.h"
 #include "core/Datenbankdatei.h"
@@ -24,7 +25,10 @@
 #include <QTabBar>
 #include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 #include <QtTest>
+
+#include <tuple>
 
 class TestHauptfenster : public QObject {
     Q_OBJECT
@@ -104,6 +108,57 @@ class TestHauptfenster : public QObject {
         }
     }
 
+    void DieUebrigenAnsichtenEntstehenNachDemErstenBild() {
+        TestbuchLaden(QStringLiteral("Klasse 7a\nFach 50000 7a Mathematik\nSchueler 10000 7a Huber Anna"));
+        SpeichernDatenbank3(Welt.Pfad(QStringLiteral("klasse.txt")));
+        frmMain Eines;
+        Eines.Laden();
+        const auto Gebaute = [&Eines] {
+            return Eines.findChildren<Ansicht*>(QRegularExpression(QStringLiteral("^picAnsicht_"))).size();
+        };
+        QCOMPARE(Gebaute(), 1);
+        QVERIFY(Eines.findChild<Ansicht*>(QStringLiteral("picAnsicht_1")));
+        const auto Auswahl = [] {
+            return std::make_tuple(AktSchuelerID, AktFachID, AktProbe, AktKlasse, DatenGeaendert);
+        };
+        AktSchuelerID = 10000;
+        const auto Vorher = Auswahl();
+        Eines.show();
+        QTRY_COMPARE(Gebaute(), 5);
+        QVERIFY(Auswahl() == Vorher);
+    }
+
+    void EinWechselVorDemErstenBildBautSeineAnsicht() {
+        frmMain Eines;
+        Eines.Laden();
+        Eines.findChild<QTabWidget*>(QStringLiteral("tabAnsicht"))->setCurrentIndex(4);
+        QVERIFY(Eines.findChild<Ansicht*>(QStringLiteral("picAnsicht_4")));
+        QVERIFY(!Eines.findChild<Ansicht*>(QStringLiteral("picAnsicht_2")));
+    }
+
+    void VonDenReiternFuehrtTabulatorInDieAnsichtUndVonIhrInDieLeiste() {
+        TestbuchLaden(QStringLiteral("Klasse 7a\nFach 50000 7a Mathematik"));
+        SpeichernDatenbank3(Welt.Pfad(QStringLiteral("klasse.txt")));
+        Fenster.Starten();
+        QTabWidget* const Reiter = Fenster.Reiter();
+        const QWidget* const Leiste = Fenster.Kind<QWidget>("tbToolBar");
+        const auto WeiterAus = [this](const QWidget* Teil) {
+            while (Teil->isAncestorOf(Fenster->focusWidget()) || Teil == Fenster->focusWidget())
+                QTest::keyClick(Fenster->focusWidget(), Qt::Key_Tab);
+        };
+        for (int Nummer = 0; Nummer < Reiter->count(); ++Nummer) {
+            Reiter->setCurrentIndex(Nummer);
+            Reiter->tabBar()->setFocus();
+            WeiterAus(Reiter->tabBar());
+            QVERIFY(Reiter->currentWidget()->isAncestorOf(Fenster->focusWidget()));
+            // A grid keeps the key for its cells, so from here on the chain itself tells.
+            QWidget* Naechstes = Fenster->focusWidget();
+            while (Reiter->isAncestorOf(Naechstes) || Naechstes->focusPolicy() == Qt::NoFocus)
+                Naechstes = Naechstes->nextInFocusChain();
+            QVERIFY(Leiste->isAncestorOf(Naechstes));
+        }
+    }
+
     // Start.
 
     void OhneDateiStehtEineNeueDatenbank() {
@@ -115,6 +170,18 @@ class TestHauptfenster : public QObject {
         QCOMPARE(Hinweis(), QString());
     }
 
+    void DieKnoepfeDerLeisteTragenIhrenNamen() {
+        Fenster.Starten();
+        for (const char* Name : {"New", "Open", "Save", "Print", "Cut", "Copy", "Paste"})
+            QVERIFY2(Fenster.Kind<QToolButton>(Name), Name);
+    }
+
+    void DieSchuelerlisteHatIhrenKopfVorDemErstenBesuch() {
+        Fenster.Starten();
+        QTRY_VERIFY(Fenster.Kind<Gitter>("tblSSchueler"));
+        QCOMPARE(Fenster.Kind<Gitter>("tblSSchueler")->TextMatrix(1, 0), QStringLiteral("Schüler"));
+    }
+
     void DieLetzteDateiWirdGeladen() {
         const QString Pfad = Welt.Pfad(QStringLiteral("klasse.txt"));
         TestbuchLaden(QStringLiteral("Klasse 7a\nFach 50000 7a Mathematik"));
@@ -124,11 +191,22 @@ class TestHauptfenster : public QObject {
         QCOMPARE(Datenbank.AnzKlassen, qint16(1));
     }
 
-    void MitAutoLadenFalschWirdNichtsGeladen() {
+    void NurEinFalschesAutoLadenHaeltDasLadenAuf_data() {
+        QTest::addColumn<QString>("Wert");
+        QTest::addColumn<QString>("Datei");
+        const QString Geladen = QStringLiteral("klasse.txt");
+        for (const char* Falsch : {"False", "false", "Falsch", "0"})
+            QTest::newRow(Falsch) << QString::fromLatin1(Falsch) << Unbenannt;
+        for (const char* Wahr : {"True", "Wahr", "1", "-1", ""})
+            QTest::newRow(Wahr) << QString::fromLatin1(Wahr) << Geladen;
+    }
+    void NurEinFalschesAutoLadenHaeltDasLadenAuf() {
+        QFETCH(QString, Wert);
+        QFETCH(QString, Datei);
         SpeichernDatenbank3(Welt.Pfad(QStringLiteral("klasse.txt")));
-        EinstellungSchreiben(QStringLiteral("AutoLaden"), QStringLiteral("False"));
+        EinstellungSchreiben(QStringLiteral("AutoLaden"), Wert);
         Fenster.Starten();
-        QCOMPARE(Fenster->windowTitle(), QStringLiteral("Tafelquell 3.1 - Unbenannt"));
+        QCOMPARE(Fenster->windowTitle(), QStringLiteral("Tafelquell 3.1 - ") + Datei);
     }
 
     void EineVerschwundeneDateiFuehrtZuMeldungUndNeuerDatenbank() {

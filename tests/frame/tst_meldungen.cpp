@@ -123,12 +123,20 @@ class TestMeldungen : public QObject {
                 [&](QMessageBox& Kasten) { Titel.append(Kasten.windowTitle()); });
             Boxen.Zeigen({QStringLiteral("?"), Eigener, Knoepfe::Ok, Symbol::Ohne});
         }
-        QCOMPARE(Titel,
-                 QStringList({QStringLiteral("Tafelquell 3.1"), QStringLiteral("Sicherheitsabfrage:")}));
+        QCOMPARE(Titel, QStringList({QStringLiteral("Tafelquell"), QStringLiteral("Sicherheitsabfrage:")}));
     }
 
     void ZeilenendenBrechenDieZeileUm() {
         QCOMPARE(BoxText(QStringLiteral("a\r\nb\rc\nd")), QStringLiteral("a\nb\nc\nd"));
+    }
+
+    void EinLangerPfadStehtWortFuerWortInDerBox() {
+        const QString Pfad = QStringLiteral("/home/lehrerin/Dokumente/Schule/Noten/2003-2004/Grundschule/") +
+                             QStringLiteral("Jahrgangsstufen/klasse7a_2003_04.txt");
+        QString Gezeigt;
+        const Bediener<QMessageBox> Hand([&](QMessageBox& Kasten) { Gezeigt = Kasten.text(); });
+        Boxen.Zeigen({Pfad, {}, Knoepfe::Ok, Symbol::Ohne});
+        QCOMPARE(Gezeigt, Pfad);
     }
 
     void EinEndlosesWortPasstAufDenBildschirm() {

@@ -9,6 +9,7 @@
 #include "core/Definitionen.h"
 #include "core/FktSpeziell.h"
 #include "frame/Zwischenablage.h"
+#include "grading/Bildfeld.h"
 
 #include <QClipboard>
 #include <QLabel>
@@ -208,6 +209,21 @@ class TestZwischenablage : public QObject {
         QVERIFY(Feld->pixmap().isNull());
         Fenster.Aktion("mnuEditPaste")->trigger();
         QCOMPARE(Feld->pixmap().size(), QSize(3, 4));
+    }
+
+    void EinAngeklicktesDiagrammGibtSeinBildUndZeigtEinEingefuegtes() {
+        auto* Diagramm = Fenster.Kind<Bildfeld>("picNoten");
+        QTest::mouseClick(Diagramm, Qt::LeftButton);
+        QVERIFY(Diagramm->hasFocus());
+        const QImage Gemalt = Diagramm->grab().toImage();
+        Fenster.Aktion("mnuEditCut")->trigger();
+        QCOMPARE(Ablage().image().convertedTo(Gemalt.format()), Gemalt);
+        QCOMPARE(Diagramm->grab().toImage().pixelColor(Diagramm->width() / 2, 20), QColor(Qt::white));
+        QPixmap Rot(20, 20);
+        Rot.fill(Qt::red);
+        Ablage().setPixmap(Rot);
+        Fenster.Aktion("mnuEditPaste")->trigger();
+        QCOMPARE(Diagramm->grab().toImage().pixelColor(10, 10), QColor(Qt::red));
     }
 
     void EineListeGibtIhrenEintragUndNimmtEinenNeuen() {

@@ -2,6 +2,7 @@
 #include "common/Testwelt.h"
 #include "common/Zeichenprotokoll.h"
 
+#include "Massstab.h"
 #include "grading/Diagramme.h"
 #include "grading/Malflaeche.h"
 
@@ -14,14 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QRgb Papier = 0xFFFFFFFF;
-
-Probenmassstab Massstab(const QString& Gesamt, const QString& Grenzen) {
-    Probenmassstab Neuer;
-    Neuer.Gesamtpunktzahl = Gesamt;
-    for (int j = 0; j < 5; ++j)
-        Neuer.NGrenze[j] = Grenzen.section(u';', j, j);
-    return Neuer;
-}
 
 /// "24=1 30=2"
 Reihe<qint16, 401> Verteilung(const QString& Texte) {

@@ -1,6 +1,7 @@
 #include "common/Testprogramm.h"
 #include "common/Testwelt.h"
 
+#include "Massstab.h"
 #include "core/Definitionen.h"
 #include "grading/Grenzverteilung.h"
 
@@ -15,14 +16,6 @@ Anteile Prozente(const QString& Texte) {
     for (int j = 0; j < 5; ++j)
         Werte[j] = Texte.section(u' ', j, j).toFloat();
     return Werte;
-}
-
-Probenmassstab Massstab(const QString& Gesamt, const QString& Grenzen) {
-    Probenmassstab Neuer;
-    Neuer.Gesamtpunktzahl = Gesamt;
-    for (int j = 0; j < 5; ++j)
-        Neuer.NGrenze[j] = Grenzen.section(u';', j, j);
-    return Neuer;
 }
 
 std::vector<QString> Liste(const QString& Texte) {

@@ -1,6 +1,7 @@
 #include "common/Testprogramm.h"
 #include "common/Testwelt.h"
 
+#include "Massstab.h"
 #include "core/Definitionen.h"
 #include "core/Zahlen.h"
 #include "grading/Probenauswertung.h"
@@ -10,14 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-Probenmassstab Massstab(const QString& Gesamt, const QString& Grenzen) {
-    Probenmassstab Neuer;
-    Neuer.Gesamtpunktzahl = Gesamt;
-    for (int j = 0; j < 5; ++j)
-        Neuer.NGrenze[j] = Grenzen.section(u';', j, j);
-    return Neuer;
-}
 
 /// "12" is a row with 12 points, "12:3-" one that has the grade 3- already.
 std::vector<Auswertungszeile> Zeilen(const QStringList& Texte) {

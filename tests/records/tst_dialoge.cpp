@@ -494,7 +494,7 @@ class DialogeTest : public QObject {
                                 Antwort::Ja);
         int Klicks = 0;
         connect(&Liste, &Kombinationsfeld::Klick, this, [&Klicks] { ++Klicks; });
-        KlasseAnlegen(Liste);
+        KlasseAnlegen(Liste, true);
         QCOMPARE(Welt.Boxen.Gezeigt[0].Titel, QStringLiteral("Sicherheitsabfrage"));
         QCOMPARE(Datenbank.Klassen[0].Name, QStringLiteral("7a"));
         QCOMPARE(Liste.ListIndex(), 0);
@@ -507,7 +507,7 @@ class DialogeTest : public QObject {
         Liste.setEditable(true);
         Liste.Hinzufuegen(QStringLiteral("7a"));
         Liste.setEditText(QStringLiteral("abc"));
-        KlasseAnlegen(Liste);
+        KlasseAnlegen(Liste, true);
         QCOMPARE(Liste.currentText(), QStringLiteral("abc"));
         QCOMPARE(Liste.ListIndex(), -1);
         QCOMPARE(Datenbank.AnzKlassen, qint16{0});
@@ -519,7 +519,7 @@ class DialogeTest : public QObject {
         Liste.Hinzufuegen(QStringLiteral("7a"));
         Liste.setEditText(QStringLiteral("8a"));
         Welt.Boxen.ErwarteFrage(QStringLiteral("Wollen Sie eine neue Klasse"), Antwort::Nein);
-        KlasseAnlegen(Liste);
+        KlasseAnlegen(Liste, true);
         QCOMPARE(Liste.currentText(), QStringLiteral("7a"));
         QCOMPARE(Datenbank.AnzKlassen, qint16{0});
         QVERIFY(!DatenGeaendert);
@@ -530,7 +530,7 @@ class DialogeTest : public QObject {
         Liste.setEditable(true);
         Liste.Hinzufuegen(QStringLiteral("7a"));
         Liste.setEditText(QStringLiteral("7a"));
-        KlasseAnlegen(Liste);
+        KlasseAnlegen(Liste, true);
         QCOMPARE(Liste.ListIndex(), 0);
         QCOMPARE(Datenbank.AnzKlassen, qint16{0});
     }

@@ -13,8 +13,12 @@ import tempfile
 from welt import AUFRUFE, HIER, Welt, aufrufe_zaehlen, filter_fuer, getroffen, jetzt
 
 FEHLER = ("ENOSPC", "EIO", "EACCES", "EROFS", "EINTR")
+AUSWEICHEN = "liegen deshalb vorerst im Ordner"  # told once, after a save that succeeded
 LADEFEHLER = ("Fehler beim Einlesen", "konnte nicht gefunden werden", "konnte nicht gelesen werden")
 KOPF = ['antworten "OK|Nein|Abbrechen"', "warte frmMain", "zelle tblPPunkte 1 1"]
+
+
+TEILE = ("echt", "riesig", "kurze_aufrufe", "laden", "wiederherstellen", "arbeit", "ausweichen", "phrasen", "zufaellig")
 
 
 def speichern_mit(punkte):
@@ -54,6 +58,9 @@ class Durchgang:
         self.voll = (HIER.parent / "data" / "klein.txt").read_bytes()
         # With bare line feeds the file is shorter than what is saved: the save must reserve room.
         self.alt = self.voll.replace(b"\r\n", b"\n")
+        self.phrasen_alt = (b"[Beurteilungsvorlagen f\xfcr Tafelquell 3.0]\r\n[Deutsch]\r\n" +
+                            120 * b"+ *****s Texte sind gut aufgebaut und lebendig erz\xe4hlt.\r\n")
+        self.phrasen_neu = self.phrasen_alt + b"o Neu.\r\n"
         self.neu = self.stand("36")
         self.anders = self.stand("12,5")
 
@@ -73,7 +80,7 @@ class Durchgang:
         if f"MELDUNG {von}" not in zeilen or f"MELDUNG {bis}" not in zeilen:
             return False
         teil = zeilen[zeilen.index(f"MELDUNG {von}"):zeilen.index(f"MELDUNG {bis}")]
-        return not any(zeile.startswith(("KASTEN", "FEHLER")) for zeile in teil)
+        return not any(zeile.startswith(("KASTEN", "FEHLER")) and AUSWEICHEN not in zeile for zeile in teil)
 
     def geladen(self):
         """The grade book came up under its name, and nothing was said about its load."""
@@ -120,7 +127,7 @@ class Durchgang:
 
     # The points.
 
-    def punkte(self, zahl):
+    def punkte(self, zahl, stichprobe):
         """(call, number, what) for all calls; in the short form a spread of them."""
         arten = [f"error={f}:when={{}}{d}" for f in FEHLER for d in ("", "+")] + ["signal=KILL:when={}"]
         alle = [(aufruf, n, art) for aufruf, anzahl in zahl.items() for n in range(1, anzahl + 1) for art in arten]
@@ -128,24 +135,93 @@ class Durchgang:
             return alle
         wichtig = ("pwrite64", "fsync", "ftruncate", "fallocate", "rename", "unlink")
         tode = [p for p in alle if p[0] in wichtig and p[2].startswith("signal")]
-        return tode + random.Random(1).sample(alle, min(50, len(alle)))
+        zufall = random.Random(1)
+        return zufall.sample(tode, min(stichprobe, len(tode))) + zufall.sample(alle, min(stichprobe, len(alle)))
 
-    def stoeren(self, teil, vorlage, herrichten, pruefen):
+    def stoeren(self, teil, vorlage, herrichten, pruefen, zusatz=None, stichprobe=50):
         herrichten()
-        zahl = aufrufe_zaehlen(self.welt, vorlage)
+        zahl = aufrufe_zaehlen(self.welt, vorlage, zusatz)
         print(f"{teil}: {sum(zahl.values())} Aufrufe: {zahl}", flush=True)
-        for aufruf, nummer, art in self.punkte(zahl):
+        for aufruf, nummer, art in self.punkte(zahl, stichprobe):
             herrichten()
             self.welt.spur.unlink(missing_ok=True)
             was = f"{aufruf}:{art.format(nummer)}"
             ausgang = self.welt.lauf(vorlage, strace=[*filter_fuer(self.welt), "-e", f"trace={AUFRUFE}", "-e",
-                                                      f"inject={was}"])
+                                                      f"inject={was}"], zusatz=zusatz)
             fehler = pruefen(ausgang, art.startswith("signal"))
             self.zahl.punkt(teil + (", getötet" if art.startswith("signal") else ", Fehler"), fehler and f"{was}: {fehler}")
 
     def arbeit(self):
         self.stoeren("Laden, Speichern, Speichern unter", "arbeit.txt", lambda: self.welt.frisch(self.alt),
                      self.nach_arbeit)
+
+    def ohne_zustandsordner(self):
+        """An environment whose state folder cannot be: a file stands in its place."""
+        im_weg = self.welt.ordner / "im_weg"
+        im_weg.write_bytes(b"")
+        return {"XDG_STATE_HOME": str(im_weg)}
+
+    def ausweichen(self):
+        """The same where the state folder cannot be: rescue copies lie in the second folder."""
+        zusatz = self.ohne_zustandsordner()
+        self.welt.frisch(self.alt)
+        ausgang = self.welt.lauf("arbeit.txt", zusatz=zusatz)
+        hinweise = [z for z in self.welt.meldungen() if AUSWEICHEN in z]
+        assert ausgang == "ende" and len(hinweise) == 1 and self.welt.inhalt(self.welt.buch) == self.neu, \
+            (ausgang, self.welt.meldungen())
+        self.stoeren("Speichern ohne Zustandsordner", "arbeit.txt", lambda: self.welt.frisch(self.alt),
+                     self.nach_arbeit, zusatz, stichprobe=12)
+
+    def phrasen(self):
+        """The phrase file: load, add a phrase, save, end."""
+        welt = self.welt
+
+        def bewahrt():
+            return any(p.read_bytes() == self.phrasen_alt for p in welt.zustand.glob("*phrasen.txt"))
+
+        def ganz():
+            return welt.inhalt(welt.phrasen) in (self.phrasen_alt, self.phrasen_neu)
+
+        def pruefen(ausgang, toedlich):
+            unvollstaendig = any("Formulierungen-Datei" in z for z in welt.meldungen())
+            # A store that could not be loaded has no last row to type in, and the session ends there.
+            erwartet = ("ende", "getoetet" if toedlich else "ende", "falsch 3" if unvollstaendig else "ende")
+            if ausgang not in erwartet:
+                return f"Lauf endete mit: {ausgang} {welt.meldungen()[-3:]}"
+            if not unvollstaendig and self.zwischen("speichern", "gespeichert") and \
+                    welt.inhalt(welt.phrasen) != self.phrasen_neu:
+                return "falscher Erfolg"
+            if not welt.offene_rettungen() and (ganz() or unvollstaendig and bewahrt()):
+                return ""
+            welt.profil()
+            ausgang = welt.lauf("neustart.txt")
+            if ausgang != "ende" or welt.offene_rettungen():
+                return f"nächster Start: {ausgang} {welt.meldungen()}"
+            if ganz() or unvollstaendig and bewahrt():
+                return ""
+            return f"Formulierungen weder alt noch neu: {welt.inhalt(welt.phrasen)!r:.80} {welt.meldungen()}"
+
+        welt.frisch(self.alt, phrasen=self.phrasen_alt)
+        ausgang = welt.lauf("phrasen.txt")
+        assert ausgang == "ende" and welt.inhalt(welt.phrasen) == self.phrasen_neu, (ausgang, welt.meldungen())
+        self.stoeren("Formulierungen laden und speichern", "phrasen.txt",
+                     lambda: welt.frisch(self.alt, phrasen=self.phrasen_alt), pruefen, stichprobe=12)
+
+    def riesig(self):
+        """Lines of 300 MB for every reader; only in the long form, since they take gigabytes."""
+        klassen = {"core": ("LadenScheitert:Sehr_lange_Zeile_laedt_und_der_Bericht_bleibt_kurz",
+                            "SchlechteFremdeDatenbank:EineSehrLangeZeileGehtDurch",
+                            "SchlechteParameterdatei:EineSehrLangeZeileGehtDurch"),
+                   "assessments": ("FormulierungenSchlecht:AVeryLongLineIsReadAndItsReportStaysShort",)}
+        for ordner, tests in () if self.kurz else klassen.items():
+            programm = self.welt.bau / "tests" / ordner / f"tafelquell_tests_{ordner}"
+            if not programm.exists():
+                print(f"ausgelassen: nicht gebaut: {programm}")
+                continue
+            for test in tests:
+                fertig = subprocess.run([programm, test], env=os.environ | {"TAFELQUELL_LANG": "1"}, timeout=600,
+                                        capture_output=True, text=True)
+                self.zahl.punkt("Zeilen von 300 MB", fertig.stdout[-500:] if fertig.returncode else "")
 
     def laden(self):
         def pruefen(ausgang, toedlich):
@@ -215,9 +291,10 @@ class Durchgang:
         assert self.welt.lauf([*skript, "aktion mnuFileExit"]) == "ende", self.welt.meldungen()
         dauer = jetzt() - beginn
         zufall = random.Random(2003)
-        for _ in range(30 if self.kurz else 1000):
+        for nummer in range(30 if self.kurz else 1000):
             self.welt.frisch(alt)
-            prozess = self.welt.starten(skript)
+            # Every fourth time the rescue copies lie in the second folder.
+            prozess = self.welt.starten(skript, zusatz=self.ohne_zustandsordner() if nummer % 4 == 3 else None)
             pause = zufall.uniform(0.02, dauer)
             try:
                 prozess.wait(pause)
@@ -240,7 +317,8 @@ class Durchgang:
 
     def echt(self):
         faelle = {"voller Datenträger": self.voll_laufen, "schreibgeschützter Datenträger": self.nur_lesen,
-                  "voller Zustandsordner": self.zustand_voll}
+                  "voller Zustandsordner": self.zustand_voll,
+                  "voller Zustandsordner, zweiter Ordner": self.zustand_voll_zweiter}
         for name, fall in faelle.items():
             ordner = self.eingehaengt("size=256k")
             if not ordner:
@@ -288,15 +366,24 @@ class Durchgang:
     def zustand_voll(self, ordner):
         self.welt.frisch(self.alt)
         self.fuellen(ordner)
-        ausgang = self.welt.lauf(self.SPEICHERN, zusatz={"XDG_STATE_HOME": str(ordner)})
+        ausgang = self.welt.lauf(self.SPEICHERN, zusatz={"XDG_STATE_HOME": str(ordner), "XDG_RUNTIME_DIR": ""})
         return f"{ausgang}" if ausgang != "ende" else self.verweigert(self.alt, "konnte keine Rettungskopie angelegt werden")
+
+    def zustand_voll_zweiter(self, ordner):
+        self.welt.frisch(self.alt)
+        self.fuellen(ordner)
+        ausgang = self.welt.lauf(self.SPEICHERN, zusatz={"XDG_STATE_HOME": str(ordner)})
+        gesagt = sum(AUSWEICHEN in z for z in self.welt.meldungen())
+        if ausgang != "ende" or gesagt != 1:
+            return f"{ausgang}, {gesagt} Hinweise: {self.welt.meldungen()}"
+        return "" if self.welt.inhalt(self.welt.buch) == self.neu else "nicht gespeichert"
 
 
 def main():
     angaben = argparse.ArgumentParser(description=__doc__)
     angaben.add_argument("--bau", required=True)
     angaben.add_argument("--kurz", action="store_true")
-    angaben.add_argument("--teil", choices=("arbeit", "laden", "kurze_aufrufe", "wiederherstellen", "zufaellig", "echt"))
+    angaben.add_argument("--teil", choices=TEILE)
     wahl = angaben.parse_args()
     for datei in ("src/tafelquell", "tests/sweep/treiber/libtafelquell_treiber.so"):
         if not (pathlib.Path(wahl.bau) / datei).exists():
@@ -305,7 +392,7 @@ def main():
     ort = os.environ.get("TMPDIR") or ("/dev/shm" if os.access("/dev/shm", os.W_OK) else None)
     with tempfile.TemporaryDirectory(prefix="tafelquell-sweep-", dir=ort) as ordner:
         durchgang = Durchgang(Welt(wahl.bau, ordner), wahl.kurz)
-        for teil in ("echt", "kurze_aufrufe", "laden", "wiederherstellen", "arbeit", "zufaellig"):
+        for teil in TEILE:
             if wahl.teil in (None, teil):
                 getattr(durchgang, teil)()
         return durchgang.zahl.schluss()

@@ -20,29 +20,36 @@ class Welt:
         self.ordner = pathlib.Path(ordner)
         self.buch = self.ordner / "buecher" / "buch.txt"
         self.neu = self.ordner / "buecher" / "neu.txt"
+        self.phrasen = self.ordner / "buecher" / "phrasen.txt"
         self.zustand = self.ordner / "state" / "tafelquell"
+        self.laufzeit = self.ordner / "laufzeit" / "tafelquell"  # the second choice for rescue copies
+        self.mit_phrasen = False  # else the phrase file is the delivered one
         self.protokoll = self.ordner / "protokoll"
         self.spur = self.ordner / "spur"
 
-    def frisch(self, inhalt, buch=None, zustand=None):
+    def frisch(self, inhalt, buch=None, zustand=None, phrasen=None):
         """Removes what the last run left. zustand: a folder whose files the state folder begins with."""
         if buch:
             self.buch = pathlib.Path(buch)
-        for name in ("buecher", "state", "config", "data", "skripte"):
+        for name in ("buecher", "state", "config", "data", "skripte", "laufzeit"):
             shutil.rmtree(self.ordner / name, ignore_errors=True)
-            (self.ordner / name).mkdir(parents=True)
+            (self.ordner / name).mkdir(parents=True, mode=0o700)
         self.zustand.mkdir(mode=0o700)
         for datei in zustand.iterdir() if zustand else ():
             shutil.copy(datei, self.zustand)
+        self.mit_phrasen = phrasen is not None
         self.profil()
         if inhalt is not None:
             self.buch.write_bytes(inhalt)
+        if phrasen is not None:
+            self.phrasen.write_bytes(phrasen)
 
     def profil(self):
         """Settings that name the grade book, and the delivered files where the program keeps them."""
         einstellungen = self.ordner / "config" / "Tafelquell" / "Tafelquell.conf"
         einstellungen.parent.mkdir(exist_ok=True)
-        einstellungen.write_text(f"[Settings]\nAutoDatei={self.buch}\nErstesMal=nein\n")
+        phrasen = f"Formulierungen={self.phrasen}\n" if self.mit_phrasen else ""
+        einstellungen.write_text(f"[Settings]\nAutoDatei={self.buch}\n{phrasen}ErstesMal=nein\n")
         eigene = self.ordner / "data" / "tafelquell"
         eigene.mkdir(exist_ok=True)
         for name in ("Tafelquell.ini", "Formulierungen.txt"):
@@ -54,7 +61,7 @@ class Welt:
         return {
             "PATH": os.environ["PATH"], "HOME": str(self.ordner), "LC_ALL": "de_DE.UTF-8",
             "XDG_CONFIG_HOME": str(self.ordner / "config"), "XDG_DATA_HOME": str(self.ordner / "data"),
-            "XDG_STATE_HOME": str(self.ordner / "state"), "XDG_RUNTIME_DIR": str(self.ordner),
+            "XDG_STATE_HOME": str(self.ordner / "state"), "XDG_RUNTIME_DIR": str(self.laufzeit.parent),
             "QT_QPA_PLATFORM": "offscreen", "TREIBER_SKRIPT": str(skript),
             "TREIBER_PROTOKOLL": str(self.protokoll), "TREIBER_FRIST": LANGSAMER_SCHRITT_MS,
         }
@@ -98,7 +105,8 @@ class Welt:
         return self.protokoll.read_text(errors="replace").splitlines() if self.protokoll.exists() else []
 
     def offene_rettungen(self):
-        return [p for p in self.zustand.iterdir() if p.suffix in (".rescue", ".tmp")] if self.zustand.exists() else []
+        ordner = [o for o in (self.zustand, self.laufzeit) if o.exists()]
+        return [p for o in ordner for p in o.iterdir() if p.suffix in (".rescue", ".tmp")]
 
     def inhalt(self, pfad):
         return pfad.read_bytes() if pfad.exists() else None
@@ -109,16 +117,16 @@ AUFRUFE = ("open,openat,read,pread64,write,pwrite64,fsync,fdatasync,ftruncate,tr
 
 
 def filter_fuer(welt):
-    """The paths whose calls count: target, its folder, state folder, rescue copies. Without them the dynamic
-    loader's calls would be hit."""
-    pfade = [welt.buch, welt.neu, welt.buch.parent, welt.zustand]
-    pfade += [welt.zustand / f"r.{n}.{e}" for n in (1, 2, 3) for e in ("tmp", "rescue")]
+    """The paths whose calls count: targets, their folder, state folder, its second, rescue copies. Without them
+    the dynamic loader's calls would be hit."""
+    pfade = [welt.buch, welt.neu, welt.phrasen, welt.buch.parent, welt.zustand, welt.laufzeit.parent, welt.laufzeit]
+    pfade += [o / f"r.{n}.{e}" for o in (welt.zustand, welt.laufzeit) for n in (1, 2, 3) for e in ("tmp", "rescue")]
     return [teil for pfad in pfade for teil in ("-P", str(pfad))]
 
 
-def aufrufe_zaehlen(welt, vorlage):
+def aufrufe_zaehlen(welt, vorlage, zusatz=None):
     """Runs once without a fault and counts the calls of the main thread by name."""
-    ausgang = welt.lauf(vorlage, strace=[*filter_fuer(welt), "-e", f"trace={AUFRUFE}"])
+    ausgang = welt.lauf(vorlage, strace=[*filter_fuer(welt), "-e", f"trace={AUFRUFE}"], zusatz=zusatz)
     assert ausgang == "ende", f"der Lauf ohne Störung endete mit: {ausgang}: {welt.meldungen()}"
     zeilen = [re.match(r"(\d+) +(\w+)\(", zeile) for zeile in welt.spur.read_text(errors="replace").splitlines()]
     zeilen = [z for z in zeilen if z]

@@ -1,0 +1,156 @@
+#include "Hauptfenster.h"
+#include "common/Testbuch.h"
+#include "common/Testprogramm.h"
+#include "controls/EingabeFeld.h"
+#include "controls/Gitter.h"
+#include "core/Definitionen.h"
+
+#include <QTabWidget>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+struct Taste {
+    const char* Name;
+    Qt::Key Wert;
+    Qt::KeyboardModifiers Zusatz;
+};
+
+/// Keys that no list names: Qt's views would move the cell on all of them.
+const Taste Tasten[] = {{"Tab", Qt::Key_Tab, {}},
+                        {"Backtab", Qt::Key_Backtab, Qt::ShiftModifier},
+                        {"Ctrl+Tab", Qt::Key_Tab, Qt::ControlModifier},
+                        {"Ctrl+Home", Qt::Key_Home, Qt::ControlModifier},
+                        {"Ctrl+Shift+Home", Qt::Key_Home, Qt::ControlModifier | Qt::ShiftModifier},
+                        {"Ctrl+End", Qt::Key_End, Qt::ControlModifier},
+                        {"Alt+Home", Qt::Key_Home, Qt::AltModifier},
+                        {"Alt+Left", Qt::Key_Left, Qt::AltModifier},
+                        {"Alt+Right", Qt::Key_Right, Qt::AltModifier},
+                        {"Meta+Left", Qt::Key_Left, Qt::MetaModifier},
+                        {"Ctrl+Alt+Right", Qt::Key_Right, Qt::ControlModifier | Qt::AltModifier}};
+
+/// A cell of a list, what is typed into it, and where the record holds it then.
+struct Liste {
+    const char* Gitter;
+    const char* Feld;
+    int Reiter;
+    int Zeile;
+    int Spalte;
+    const char* Text;
+    const QString* Satz;
+};
+
+} // namespace
+
+/// What is typed into a box over a cell is never dropped by a key.
+class TestZellentasten : public QObject {
+    Q_OBJECT
+
+    Testwelt Welt;
+    Hauptfenster Fenster;
+
+    static std::vector<Liste> Listen() {
+        return {{"tblSSchueler", "txtSEingabe", 0, 2, 5, "Ulm", &Datenbank.Schueler[0].Feld[4]},
+                {"tblPPunkte", "txtEingabe", 1, 1, 1, "7", &Datenbank.Noten[0].P[1]},
+                {"tblN1Noten", "txtN1Eingabe", 2, 2, 22, "5", &Datenbank.Noten[0].N[22]},
+                {"tblN2Noten", "txtN2Eingabe", 3, 2, 22, "5", &Datenbank.Noten[0].N[22]}};
+    }
+
+    void Oeffnen(const Liste& Welche) {
+        Fenster.Reiter()->setCurrentIndex(Welche.Reiter);
+        QCoreApplication::processEvents();
+        auto* Tabelle = Fenster.Kind<Gitter>(Welche.Gitter);
+        const QPoint Ort =
+            Tabelle->viewport()->mapFrom(Tabelle, Tabelle->CellRect(Welche.Zeile, Welche.Spalte).center());
+        QTest::mouseClick(Tabelle->viewport(), Qt::LeftButton, {}, Ort);
+    }
+
+    static void TastenUndListen() {
+        QTest::addColumn<int>("Listennummer");
+        QTest::addColumn<int>("Tastennummer");
+        const auto Alle = Listen();
+        for (std::size_t i = 0; i < Alle.size(); ++i)
+            for (std::size_t j = 0; j < std::size(Tasten); ++j)
+                QTest::addRow("%s %s", Alle[i].Gitter, Tasten[j].Name)
+                    << static_cast<int>(i) << static_cast<int>(j);
+    }
+
+  private Q_SLOTS:
+    void init() {
+        Welt.Herstellen();
+        Hauptfenster::OrdnerAnlegen();
+        Fenster.Starten();
+        Fenster->resize(1280, 700);
+        TestbuchLaden(QStringLiteral("Klasse 7a\nFach 50000 7a Mathematik\nSchueler 10000 7a Bauer Anna\n"
+                                     "Note 10000 50000 Teilnahme=ja"));
+        Fenster->AnsichtAktualisieren();
+    }
+    void cleanup() {
+        Fenster.Schliessen();
+        Welt.Aufraeumen();
+    }
+
+    void KeineTasteVerwirftDasGetippte_data() { TastenUndListen(); }
+    void KeineTasteVerwirftDasGetippte() {
+        QFETCH(int, Listennummer);
+        QFETCH(int, Tastennummer);
+        const Liste Welche = Listen()[static_cast<std::size_t>(Listennummer)];
+        Oeffnen(Welche);
+        auto* Tabelle = Fenster.Kind<Gitter>(Welche.Gitter);
+        auto* Feld = Fenster.Kind<EingabeFeld>(Welche.Feld);
+        QVERIFY(Feld->hasFocus());
+        QTest::keyClicks(Feld, QString::fromLatin1(Welche.Text));
+        QTest::keyClick(Feld, Tasten[Tastennummer].Wert, Tasten[Tastennummer].Zusatz);
+
+        const QString Zelle = Tabelle->TextMatrix(Welche.Zeile, Welche.Spalte);
+        const bool NochOffen = Feld->hasFocus() && Feld->text() == QString::fromLatin1(Welche.Text) &&
+                               Tabelle->Row() == Welche.Zeile && Tabelle->Col() == Welche.Spalte;
+        QVERIFY2(NochOffen || *Welche.Satz == QString::fromLatin1(Welche.Text),
+                 qPrintable(QStringLiteral("Zelle (%1,%2) '%3', Satz '%4', Feld '%5'")
+                                .arg(Tabelle->Row())
+                                .arg(Tabelle->Col())
+                                .arg(Zelle, *Welche.Satz, Feld->text())));
+    }
+
+    void TabGehtVomFeldZumNaechstenSteuerelement_data() {
+        QTest::addColumn<int>("Listennummer");
+        for (int i = 0; i < 4; ++i)
+            QTest::newRow(Listen()[static_cast<std::size_t>(i)].Gitter) << i;
+    }
+    void TabGehtVomFeldZumNaechstenSteuerelement() {
+        QFETCH(int, Listennummer);
+        const Liste Welche = Listen()[static_cast<std::size_t>(Listennummer)];
+        Oeffnen(Welche);
+        auto* Tabelle = Fenster.Kind<Gitter>(Welche.Gitter);
+        auto* Feld = Fenster.Kind<EingabeFeld>(Welche.Feld);
+        QTest::keyClick(Feld, Qt::Key_Tab);
+        QVERIFY(!Feld->hasFocus());
+        QVERIFY(!Tabelle->hasFocus());
+        QVERIFY(QApplication::focusWidget());
+    }
+
+    void DasRadAufDemFeldRolltDieListe() {
+        for (int i = 1; i < 60; ++i) {
+            Datenbank.Schueler[i] = Datenbank.Schueler[0];
+            Datenbank.Schueler[i].ID = 10000 + i;
+            Datenbank.Noten[i] = Datenbank.Noten[0];
+            Datenbank.Noten[i].Schueler_ID = 10000 + i;
+        }
+        Datenbank.AnzSchueler = Datenbank.AnzNoten = 60;
+        Oeffnen(Listen()[2]);
+        auto* Tabelle = Fenster.Kind<Gitter>("tblN1Noten");
+        auto* Feld = Fenster.Kind<EingabeFeld>("txtN1Eingabe");
+        const int Vorher = Tabelle->TopRow();
+        const QPointF Ort(5, 5);
+        QWheelEvent Rad(Ort, Feld->mapToGlobal(Ort), {}, QPoint(0, -240), Qt::NoButton, {}, Qt::NoScrollPhase,
+                        false);
+        QCoreApplication::sendEvent(Feld, &Rad);
+        QVERIFY(Tabelle->TopRow() > Vorher);
+    }
+};
+
+TESTKLASSE(TestZellentasten)
+
+#include "tst_zellentasten.moc"
