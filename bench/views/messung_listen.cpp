@@ -16,7 +16,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-// The grade lists: painting the grid, switching subject and student, a long list, and one committed grade.
+// The grade lists: painting the grid, switching subject and student, and one committed grade.
 
 namespace {
 
@@ -147,46 +147,6 @@ void WechselMessen(const QString& Name, const std::function<double()>& Wechsel) 
                   .arg(Median(Reihe.Referenz) * 1e3, 0, 'f', 2));
 }
 
-/// The book at all bounds with one subject that Anzahl students take part in.
-void LangeListe(int Anzahl) {
-    GrossbuchFuellen(4);
-    const qint32 Fach = Datenbank.Faecher[0].ID;
-    for (int i = 0; i < Datenbank.AnzNoten; ++i) {
-        const bool Dabei = i < Anzahl;
-        Datenbank.Noten[i].Fach_ID = Dabei ? Fach : Datenbank.Faecher[1 + i % 400].ID;
-        Datenbank.Noten[i].Teilnahme = QStringLiteral("ja");
-        if (Dabei)
-            Datenbank.Noten[i].Schueler_ID = Datenbank.Schueler[i].ID;
-    }
-    AktFachID = Fach;
-}
-
-double ListeFuellen() {
-    Fenster<AnsichtN1> Eines;
-    Eines.Ansicht.Fuellen();
-    return Dauer([&] {
-        Eines.Ansicht.Fuellen();
-        Eines.Tabelle->viewport()->render(&Eines.Flaeche);
-    });
-}
-
-void LaengeMessen() {
-    const Messreihe Reihe = Vergleichen(
-        [] {
-            LangeListe(5000);
-            return ListeFuellen();
-        },
-        [] {
-            LangeListe(35);
-            return ListeFuellen();
-        });
-    Zeile(QStringLiteral("grade list of 5000 rows against 35 rows, filled and painted"), Reihe.Verhaeltnis(),
-          1.05, 1.2);
-    Anmerkung(QStringLiteral("%1 ms against %2 ms")
-                  .arg(Median(Reihe.Eigene) * 1e3, 0, 'f', 2)
-                  .arg(Median(Reihe.Referenz) * 1e3, 0, 'f', 2));
-}
-
 /// The reference of a commit: a standard table view of the same cells, painted once.
 class Standardtabelle {
   public:
@@ -259,6 +219,5 @@ int main(int argc, char** argv) {
     EingabeMessen();
     WechselMessen(QStringLiteral("switch of subject, all bounds against one class"), FachWechseln);
     WechselMessen(QStringLiteral("switch of student, all bounds against one class"), SchuelerWechseln);
-    LaengeMessen();
     return 0;
 }

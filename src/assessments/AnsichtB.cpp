@@ -351,16 +351,15 @@ void AnsichtB::BeurteilungshoehenAnpassen() {
     if (std::exchange(GemesseneBreite, Tabelle.ColWidth(1)) != Tabelle.ColWidth(1))
         Beurteilungshoehen.Vergessen();
     const auto Hoehe = [this, &Tabelle](const QString& Text) { return Zeilenhoehe(Tabelle, Text, 1); };
-    const int Zeitraum = Form->cbBHalbjahr->ListIndex();
-    std::vector<int> Hoehen{Hoehe(Tabelle.TextMatrix(0, 1))};
-    Hoehen.reserve(static_cast<std::size_t>(Tabelle.Rows()));
-    for (std::size_t z = 0; z < Liste->Zeilen.size(); ++z) {
-        const Schueler* Einer = Liste->Satz(z);
-        const auto Platz = static_cast<std::size_t>(
-            Liste->Zeilen[z].Platz * decltype(Schueler::Beurteilung)::size() + Zeitraum);
-        Hoehen.push_back(Einer ? Beurteilungshoehen(Platz, Einer->Beurteilung[Zeitraum], Hoehe) : Hoehe({}));
+    const auto Zeitraum = static_cast<std::size_t>(Form->cbBHalbjahr->ListIndex());
+    std::vector<int> Hoehen(Liste->Zeilen.size() + 2, Hoehe({}));
+    Hoehen.front() = Hoehe(Tabelle.TextMatrix(0, 1));
+    for (const std::size_t z : InSatzfolge(*Liste)) {
+        const auto Platz = static_cast<std::size_t>(Liste->Zeilen[z].Platz);
+        if (const Schueler* Einer = Liste->Satz(z))
+            Hoehen[z + 1] = Beurteilungshoehen(Zeitraum * Datenbank.Schueler.size() + Platz,
+                                               Einer->Beurteilung[static_cast<int>(Zeitraum)], Hoehe);
     }
-    Hoehen.push_back(Hoehe({}));
     Tabelle.setRowHeights(0, Hoehen);
 }
 

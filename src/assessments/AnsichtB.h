@@ -115,7 +115,7 @@ class AnsichtB : public Ansicht {
     EingabeText* txtBEingabe2;
     Schriftmass Mass;
     std::shared_ptr<Schuelerliste> Liste = std::make_shared<Schuelerliste>(); ///< shared with the grid
-    Textmerker<QString, int> Beurteilungshoehen; ///< in pixels, by place of the student and period
+    Textmerker<QString, int> Beurteilungshoehen; ///< in pixels, by period and place of the student
     int GemesseneBreite = -1;                    ///< of the column, that they hold for
     int BearbeiteteZeile = 0;                    ///< of tblBFloskel, that txtBEingabe2 lies over
     int BetreteneZeile = 1;                      ///< of tblBeurteilungen, entered last

@@ -136,6 +136,15 @@ std::vector<qint32> Zeilendaten(const Schuelerliste& Liste) {
     return IDs;
 }
 
+std::vector<std::size_t> InSatzfolge(const Schuelerliste& Liste) {
+    constexpr std::size_t Keine = static_cast<std::size_t>(-1);
+    std::vector<std::size_t> AnPlatz(static_cast<std::size_t>(Datenbank.Schueler.size()), Keine);
+    for (std::size_t z = 0; z < Liste.Zeilen.size(); ++z)
+        AnPlatz[static_cast<std::size_t>(Liste.Zeilen[z].Platz)] = z;
+    AnPlatz.erase(std::remove(AnPlatz.begin(), AnPlatz.end(), Keine), AnPlatz.end());
+    return AnPlatz;
+}
+
 void NachSpalteOrdnen(Schuelerliste& Liste, int Spalte) {
     const auto Text = [&](std::size_t Zeile) -> const QString& { return Liste.Text(Zeile, Spalte); };
     std::vector<Schuelerzeile> Geordnet;

@@ -50,6 +50,10 @@ Schuelerliste SchuelerDerKlasse(const QString& Klasse);
 /// The IDs of the rows, for the hidden row data of a grid.
 std::vector<qint32> Zeilendaten(const Schuelerliste& Liste);
 
+/// The numbers of the rows in the order of their records: thousands of records are walked through, not
+/// jumped about in.
+std::vector<std::size_t> InSatzfolge(const Schuelerliste& Liste);
+
 /// Looks up anew which texts stand in the columns of the subjects, after one has been changed.
 void TeilnahmenErneuern(Schuelerliste& Liste);
 

@@ -80,8 +80,8 @@ QStringList Abschrift(const Gitter& Tabelle) {
 template <class Art>
 class Gefuellte {
   public:
-    Gefuellte() {
-        Sicht.resize(1200, 400);
+    explicit Gefuellte(int Breite = 1200) {
+        Sicht.resize(Breite, 400);
         Sicht.show();
         Sicht.Fuellen();
         QCoreApplication::processEvents();
@@ -445,10 +445,7 @@ void LangeListenTest::heightsFollowTheWidthOfTheWindow() {
         Hoehen.append(QString::number(Eine.Liste().RowHeight(z)));
     const int Breite = Eine.Liste().ColWidth(1);
     // Nothing is known to a view that has never been wider.
-    Gefuellte<AnsichtB> Neue;
-    Neue.Sicht.resize(700, 400);
-    QCoreApplication::processEvents();
-    Neue.Fuellen();
+    Gefuellte<AnsichtB> Neue(700);
     QCOMPARE(Neue.Liste().ColWidth(1), Breite);
     for (int z = 0; z < Eine.Liste().Rows(); ++z)
         QCOMPARE(Hoehen[z], QString::number(Neue.Liste().RowHeight(z)));
