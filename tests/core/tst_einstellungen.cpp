@@ -2,6 +2,8 @@
 #include "common/Testwelt.h"
 #include "core/Einstellungen.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QtTest>
 
 namespace {
@@ -16,6 +18,7 @@ class TestEinstellungen : public QObject {
 
     /// The store as a second running program leaves it.
     void AndererLaufSchreibt(const QByteArray& Zeilen) const {
+        QDir(Welt.Ordner()).mkpath(QFileInfo(Ablage).path());
         Welt.DateiAnlegen(Ablage, "[Settings]\n" + Zeilen);
     }
 
