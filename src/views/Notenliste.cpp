@@ -112,7 +112,7 @@ void Notenliste::Fuellen() {
 }
 
 void Notenliste::TitelSchreiben() {
-    const int Stufe = qBound(1, Art.Stufe(), Probenbezeichnung.size() - 1);
+    const int Stufe = qBound(0, Art.Stufe(), Probenbezeichnung.size() - 1);
     for (int i = 1; i <= 10; ++i) {
         Tabelle->setTextMatrix(0, i, Probenbezeichnung[Stufe]);
         Tabelle->setTextMatrix(0, 10 + i, ExtemporalenBezeichnung[Stufe]);
@@ -177,6 +177,7 @@ void Notenliste::GesamtnotenBerechnen() {
         Tabelle->setTextMatrix(Zeile, Notenspalte::HalbjahrDurchschnitt, Beide.Halbjahr);
         Tabelle->setTextMatrix(Zeile, Notenspalte::JahrDurchschnitt, Beide.Jahr);
     });
+    DurchschnittImFeldErneuern();
 }
 
 bool Notenliste::InEingabezeile() const {

@@ -75,6 +75,8 @@ class Notenliste : public QObject {
     void FuerStehendeZeilen(const std::function<void(int, const Halbjahresbeginn&)>& Tun);
 
     void ZelleBetreten();
+    void ErlaubteZelleBetreten();
+    void DurchschnittImFeldErneuern();
     bool AufErlaubteZelle();
     QString Zellenhinweis() const;
     void FeldZeigen();

@@ -64,8 +64,11 @@ bool Notenliste::AufErlaubteZelle() {
 }
 
 void Notenliste::ZelleBetreten() {
-    if (!AufErlaubteZelle())
-        return;
+    if (AufErlaubteZelle() && !Ausfuehren([this] { ErlaubteZelleBetreten(); }))
+        Abbrechen(); // or the box of the cell before would stay, over a cell it does not belong to
+}
+
+void Notenliste::ErlaubteZelleBetreten() {
     if (InEingabezeile() && Art.MitKlassenwahl()) {
         Abbrechen();
         Art.Klassenwahl();
@@ -80,6 +83,12 @@ void Notenliste::ZelleBetreten() {
     Art.ZeileBetreten(AktDatum());
     if (Tabelle->Col() >= 1 && Tabelle->Col() <= Notenspalte::LetzterTest)
         AktProbe = Tabelle->Col() - 1;
+}
+
+/// A box over an average shows what the cell shows.
+void Notenliste::DurchschnittImFeldErneuern() {
+    if (Feld->isVisible() && IstDurchschnitt(Tabelle->Col()))
+        Feld->TextSetzen(Tabelle->TextMatrix(Tabelle->Row(), Tabelle->Col()));
 }
 
 void Notenliste::FeldZeigen() {

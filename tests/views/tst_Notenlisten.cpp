@@ -195,6 +195,8 @@ class AnsichtN1Test : public Notenansicht<AnsichtN1> {
     void deleteSubject();
     void deleteStudentEverywhere();
     void halfYearBoundariesChangeColoursAndAverages();
+    void aClassWithoutALevelHasNoNamesOfTests();
+    void aClassFieldThatCannotBeReadLeavesNoBoxBehind();
     void refillHidesTheBox();
     void everythingHasANameForScreenReaders();
 };
@@ -742,6 +744,8 @@ void AnsichtN1Test::deleteStudentEverywhere() {
 
 void AnsichtN1Test::halfYearBoundariesChangeColoursAndAverages() {
     MatheZeigen(*this);
+    Klicken(3, 31);
+    const QString Vorher = Feld->text();
     Schritte->Erwarte(QStringLiteral("dlgHJGrenzen"), [](QDialog& Dialog) {
         auto* Grenze = Dialog.findChild<QLineEdit*>(QStringLiteral("txtGrenzeP"));
         Grenze->selectAll();
@@ -753,6 +757,29 @@ void AnsichtN1Test::halfYearBoundariesChangeColoursAndAverages() {
     QCOMPARE(Tabelle->CellBackColor(3, 2), QColor(221, 255, 221));
     QCOMPARE(Zelle(3, 31), QStringLiteral("3,0")); // (2 + 4 + 0.5 * 3) / 2.5
     QCOMPARE(Zelle(3, 33), QStringLiteral("3,6"));
+    QVERIFY(Vorher != QStringLiteral("3,0"));
+    QCOMPARE(Feld->text(), QStringLiteral("3,0")); // the box over the average
+}
+
+void AnsichtN1Test::aClassWithoutALevelHasNoNamesOfTests() {
+    Zeigen(
+        QStringLiteral("Klasse ab\nFach 50000 ab Kunst\nSchueler 10000 ab Zech Tom\nNote 10000 50000 N1=2"),
+        "tblN1Noten", "txtN1Eingabe");
+    QCOMPARE(Zelle(0, 1), QString());
+    QCOMPARE(Zelle(0, 11), QString());
+    QCOMPARE(Zelle(0, 21), QStringLiteral("Mündlich"));
+}
+
+void AnsichtN1Test::aClassFieldThatCannotBeReadLeavesNoBoxBehind() {
+    Zeigen(QStringLiteral(
+               "Fach 50000 3Fortgeschrittene Chor\nSchueler 10000 3b Zech Tom\nNote 10000 50000 N1=2"),
+           "tblN1Noten", "txtN1Eingabe");
+    Klicken(2, 1);
+    QVERIFY(Feld->isVisible());
+    Welt.Boxen.ErwarteMeldung(QString());
+    Klicken(3, 0);
+    QVERIFY(Welt.Boxen.AllesGefragt());
+    QVERIFY(!Feld->isVisible());
 }
 
 void AnsichtN1Test::refillHidesTheBox() {
