@@ -59,7 +59,9 @@ void Gitter::mouseDoubleClickEvent(QMouseEvent* Ereignis) {
 /// Tab in a box over a cell leaves the box for the next control. Qt's views would go on to another cell, and
 /// what was typed would be gone.
 bool Gitter::focusNextPrevChild(bool Vorwaerts) {
-    return hasFocus() ? QTableView::focusNextPrevChild(Vorwaerts) : QWidget::focusNextPrevChild(Vorwaerts);
+    if (hasFocus())
+        return QTableView::focusNextPrevChild(Vorwaerts);
+    return QWidget::focusNextPrevChild(Vorwaerts); // NOLINT(bugprone-parent-virtual-call): not the views' way
 }
 
 void Gitter::keyPressEvent(QKeyEvent* Ereignis) {

@@ -42,9 +42,10 @@ bool NochDieselben(const Schuelertexte& Gemerkte, const Schueler& Satz) {
 }
 
 Spaltenmass::Schuelerbreiten Spaltenmass::Messen(const Schueler& Satz) {
-    Schuelerbreiten Breiten{Zeichen.Breite(Satz.Name)};
+    Schuelerbreiten Breiten;
+    Breiten[0] = Zeichen.Breite(Satz.Name);
     for (int k = 1; k <= AnzFelder; ++k)
-        Breiten[static_cast<std::size_t>(k)] = Zeichen.Breite(Satz.Feld[k]);
+        Breiten[k] = Zeichen.Breite(Satz.Feld[k]);
     return Breiten;
 }
 
@@ -65,8 +66,8 @@ std::vector<double> Spaltenmass::Breiteste(const Schuelerliste& Liste) {
         const Schuelerbreiten& Seine =
             AnSchuelern(static_cast<std::size_t>(Liste.Zeilen[z].Platz), *Satz, Zeilenmass);
         Groesser(0, Seine[0]);
-        for (std::size_t k = 1; k < Seine.size(); ++k)
-            Groesser(P + k, Seine[k]);
+        for (int k = 1; k <= AnzFelder; ++k)
+            Groesser(P + static_cast<std::size_t>(k), Seine[k]);
     }
     return Breiten;
 }

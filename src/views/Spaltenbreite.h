@@ -52,7 +52,7 @@ class Spaltenmass {
     std::vector<double> Breiteste(const Schuelerliste& Liste); ///< of all columns, in pixels
 
   private:
-    using Schuelerbreiten = std::array<double, 1 + AnzFelder>; ///< of the name and of the fields 1..14
+    using Schuelerbreiten = Reihe<double, 1 + AnzFelder>; ///< of the name and of the fields 1..14
     Schuelerbreiten Messen(const Schueler& Satz);
 
     QFont Gemessene;
