@@ -3,6 +3,7 @@
 #include "views/Schuelerliste.h"
 
 #include <algorithm>
+#include <functional>
 
 Zeichenmass::Zeichenmass(const QFont& Schrift)
     : Mass(Schrift) {
@@ -33,12 +34,17 @@ void Spaltenmass::SchriftSetzen(const QFont& Schrift) {
     AnSchuelern.Vergessen();
 }
 
+Schuelertexte::Schuelertexte(const Schueler& Satz)
+    : Gehaltene(std::make_unique<Reihe<QString, 1 + AnzFelder>>(Satz.Feld)) {
+    (*Gehaltene)[0] = Satz.Name;
+    std::transform(Gehaltene->begin(), Gehaltene->end(), Orte.begin(), std::mem_fn(&QString::constData));
+}
+
 bool NochDieselben(const Schuelertexte& Gemerkte, const Schueler& Satz) {
-    const auto Derselbe = [](const QString& Eines, const QString& Anderes) {
-        return NochDieselben(Eines, Anderes);
-    };
-    return Derselbe(Gemerkte.Name, Satz.Name) &&
-           std::equal(Gemerkte.Feld.begin(), Gemerkte.Feld.end(), Satz.Feld.begin(), Derselbe);
+    bool Alle = Gemerkte.Orte[0] == Satz.Name.constData();
+    for (int k = 1; k <= AnzFelder; ++k)
+        Alle &= Gemerkte.Orte[k] == Satz.Feld[k].constData();
+    return Alle;
 }
 
 Spaltenmass::Schuelerbreiten Spaltenmass::Messen(const Schueler& Satz) {

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <array>
+#include <memory>
 #include <unordered_map>
 
 struct Schuelerliste;
@@ -30,15 +31,15 @@ class Zeichenmass {
     std::unordered_map<char16_t, double> Andere;
 };
 
-/// The texts of a student that view S shows, as they once stood in his record.
+/// The texts of a student that view S shows, as they once stood in his record: name and fields 1..14. While
+/// the copies are held, nothing else can come to lie where they lie; so the places alone tell whether they
+/// are still the same, and a list of thousands is looked through without touching the copies.
 struct Schuelertexte {
-    QString Name;
-    Reihe<QString, 1 + AnzFelder> Feld;
+    Reihe<const QChar*, 1 + AnzFelder> Orte;
+    std::unique_ptr<Reihe<QString, 1 + AnzFelder>> Gehaltene;
 
     Schuelertexte() = default;
-    explicit Schuelertexte(const Schueler& Satz)
-        : Name(Satz.Name)
-        , Feld(Satz.Feld) {}
+    explicit Schuelertexte(const Schueler& Satz);
 };
 bool NochDieselben(const Schuelertexte& Gemerkte, const Schueler& Satz);
 
