@@ -8,6 +8,7 @@
 #include "core/Zahlen.h"
 #include "views/AnsichtN1.h"
 #include "views/AnsichtN2.h"
+#include "views/AnsichtS.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -16,7 +17,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-// The grade lists: painting the grid, switching subject and student, and one committed grade.
+// Lists: painting the grid, switching class, subject and student, and one committed grade.
 
 namespace {
 
@@ -131,6 +132,25 @@ double SchuelerWechseln() {
     return Eines.Wechseln(*Eines.Wahl("cbN2Name"), 0, 1);
 }
 
+/// A class without students beside 7a, so that there is one to switch to in a book of one class, too.
+QString LeereKlasse() {
+    const QString Name = QStringLiteral("9z");
+    const int Platz = qMin<int>(Datenbank.AnzKlassen, Datenbank.Klassen.size() - 2);
+    Datenbank.Klassen[Platz] = {Datenbank.AktJahr, Name};
+    Datenbank.AnzKlassen = qMax(Datenbank.AnzKlassen, static_cast<qint16>(Platz + 1));
+    return Name;
+}
+
+double KlasseWechseln() {
+    const QString Leere = LeereKlasse();
+    AktKlasse = QStringLiteral("7a");
+    AktSchuelerID = 0;
+    Fenster<AnsichtS> Eines;
+    Eines.Ansicht.Fuellen();
+    Kombinationsfeld& Klassen = *Eines.Wahl("cbSKlasse");
+    return Eines.Wechseln(Klassen, ErsterEintragDer7a(Klassen), Klassen.findText(Leere));
+}
+
 void WechselMessen(const QString& Name, const std::function<double()>& Wechsel) {
     const Messreihe Reihe = Vergleichen(
         [&] {
@@ -217,6 +237,7 @@ int main(int argc, char** argv) {
     SystemSpracheSetzen(QLocale(QLocale::German, QLocale::Germany));
     GitterMalen();
     EingabeMessen();
+    WechselMessen(QStringLiteral("switch of class, all bounds against one class"), KlasseWechseln);
     WechselMessen(QStringLiteral("switch of subject, all bounds against one class"), FachWechseln);
     WechselMessen(QStringLiteral("switch of student, all bounds against one class"), SchuelerWechseln);
     return 0;
