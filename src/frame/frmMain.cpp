@@ -181,6 +181,7 @@ void frmMain::Hinweis(const QString& Text) {
 }
 
 void frmMain::Tick() {
+    UebrigeAnsichtenBauen(); // a window that is covered or minimised is not painted
     UhrZeigen();
     Ausfuehren(EingabezaehlerTick);
 }

@@ -136,6 +136,15 @@ class TestHauptfenster : public QObject {
         QVERIFY(!Eines.findChild<Ansicht*>(QStringLiteral("picAnsicht_2")));
     }
 
+    void EinUngemaltesFensterHatNachEinemTickAlleAnsichten() {
+        frmMain Eines;
+        Eines.Laden();
+        QVERIFY(!Eines.findChild<Ansicht*>(QStringLiteral("picAnsicht_2")));
+        QMetaObject::invokeMethod(Eines.findChild<QTimer*>(QStringLiteral("timTimer")), "timeout");
+        for (int Nummer = 0; Nummer < 5; ++Nummer)
+            QVERIFY(Eines.findChild<Ansicht*>(QStringLiteral("picAnsicht_%1").arg(Nummer)));
+    }
+
     void VonDenReiternFuehrtTabulatorInDieAnsichtUndVonIhrInDieLeiste() {
         TestbuchLaden(QStringLiteral("Klasse 7a\nFach 50000 7a Mathematik"));
         SpeichernDatenbank3(Welt.Pfad(QStringLiteral("klasse.txt")));
