@@ -203,6 +203,7 @@ void AnsichtB::BeurteilungenFuellen() {
                              });
         Tabelle.setCellBackColor(Tabelle.Rows() - 1, 0, QColor(Namensgrund));
         Tabelle.setCell(1, 0);
+        BetreteneZeile = 1;
     }
     BeurteilungshoehenAnpassen();
     Tabelle.setUpdatesEnabled(true);

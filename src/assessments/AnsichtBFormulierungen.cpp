@@ -286,9 +286,13 @@ void AnsichtB::FormulierungUebernehmen() {
         FormulierungenFuellen();
         return;
     }
-    // Refused: the text stays in its editor, over its own row, when the focus has come to rest.
-    QMetaObject::invokeMethod(
-        txtBEingabe2, [this] { EditorZeigen(txtBEingabe2->Text()); }, Qt::QueuedConnection);
+    // Refused: the text stays in its editor, over its own row, when the focus has come to rest. Where a
+    // refill has closed the editor by then, as another area does, the row is no longer its own.
+    const auto Zurueck = [this] {
+        if (!txtBEingabe2->isHidden())
+            EditorZeigen(txtBEingabe2->Text());
+    };
+    QMetaObject::invokeMethod(txtBEingabe2, Zurueck, Qt::QueuedConnection);
 }
 
 bool AnsichtB::FormulierungAbgelegt(const QString& Text) {

@@ -54,6 +54,20 @@ class TestFloskelbedienung : public QObject {
                  QStringList({QStringLiteral("[ gut"), QStringLiteral("o er liest.")}));
     }
 
+    void EinAbgelehnterTextFolgtNichtInEinenAnderenBereich() {
+        Lernbereiche[0].Formulierung[0] = QStringLiteral("[ alt");
+        F->Ansicht->FormulierungenFuellen();
+        EditorOeffnen(0);
+        F->Editor().selectAll();
+        QTest::keyClicks(&F->Editor(), QStringLiteral("neu]"));
+        Welt.Boxen.ErwarteMeldung(QStringLiteral("Diese Formulierung darf nicht mit \"]\" enden"));
+        F->KlickAufKnoten(1);
+        QCoreApplication::processEvents();
+        QVERIFY(F->Editor().isHidden());
+        QCOMPARE(F->Gespeichert(0).first(), QStringLiteral("[ alt"));
+        QCOMPARE(F->Gespeichert(1), QStringList(QStringLiteral("o vier")));
+    }
+
     void EinGeschuetztesLeerzeichenBleibtImEditor() {
         const QString Alt = QStringLiteral("o 10\u00A0kg.");
         Lernbereiche[0].Formulierung[0] = Alt;
