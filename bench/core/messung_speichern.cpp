@@ -2,12 +2,16 @@
 #include "common/Messung.h"
 #include "common/Referenzdatei.h"
 
+#include "core/Dateizugriff.h"
 #include "core/Datenbankdatei.h"
+#include "core/Datenbankschreiber.h"
 #include "core/Orte.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QTemporaryDir>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 // Save by the full procedure, rescue copy and syncing included, against an unsafe one.
@@ -33,12 +37,46 @@ double Messen(const QString& Name, const QString& Ordner, double Ziel, double Gr
     return Eigene;
 }
 
+/// The calls that keep a file safe, with the bytes ready and nothing looked at: rescue copy, its name,
+/// target, away with the copy. No save that syncs as ours does can take less on this file system.
+void NurDieAufrufe(const QByteArray& Ordner, const QByteArray& Inhalt) {
+    const QByteArray Unfertig = Ordner + "/r.tmp";
+    const QByteArray Fertig = Ordner + "/r.rescue";
+    Deskriptor Ziel;
+    Deskriptor Kopie;
+    DateiOeffnen(Ordner + "/untergrenze.txt", O_RDWR | O_CREAT, &Ziel, 0600);
+    DateiOeffnen(Unfertig, O_WRONLY | O_CREAT | O_EXCL, &Kopie, 0600);
+    GanzSchreiben(Kopie, Inhalt);
+    Synchronisieren(Kopie);
+    DateiUmbenennen(Unfertig, Fertig);
+    OrdnerSynchronisieren(Ordner);
+    Aufrufe().Ftruncate(Ziel.Nummer(), 0);
+    GanzSchreiben(Ziel, Inhalt);
+    Synchronisieren(Ziel);
+    Ziel.Schliessen();
+    DateiLoeschen(Fertig);
+    Kopie.Schliessen();
+    OrdnerSynchronisieren(Ordner);
+}
+
+/// How far down the figure of one class can go at all.
+void UntergrenzeMessen(const QString& Ordner) {
+    const QByteArray Name = QFile::encodeName(Ordner);
+    const QByteArray Inhalt = DatenbankBytes('3');
+    const QString ReferenzPfad = Ordner + QStringLiteral("/referenz.txt");
+    const Messreihe Reihe = Vergleichen([&] { return NachRuhe([&] { NurDieAufrufe(Name, Inhalt); }); },
+                                        [&] { return NachRuhe([&] { ReferenzSpeichern(ReferenzPfad); }); });
+    Anmerkung(QStringLiteral("the calls alone, bytes ready: %1 of the reference")
+                  .arg(Reihe.Verhaeltnis(), 0, 'f', 3));
+}
+
 /// All sizes on one file system. A save of one class waits nearly only for the disc, which the reference does
 /// not; so it is measured in memory too, where syncing costs nothing.
 void AlleGroessen(const QString& Wo, const QTemporaryDir& Ordner) {
     ZustandsverzeichnisSetzen(Ordner.filePath(QStringLiteral("zustand")));
     KlassenbuchFuellen();
     Messen(QStringLiteral("save, one class, ") + Wo, Ordner.path(), 0.45, 0.6);
+    UntergrenzeMessen(Ordner.path());
     std::vector<double> Zeiten;
     for (const int Viertel : {1, 2, 4}) {
         GrossbuchFuellen(Viertel);
