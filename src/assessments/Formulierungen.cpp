@@ -177,14 +177,17 @@ void FormulierungenWiederherstellen(const QString& Pfad) {
                QStringLiteral("Möchten Sie wirklich alle seitdem gemachten Änderungen verwerfen und "
                               "Sicherheitskopie wiederherstellen?");
     };
-    if (!SicherheitskopieZurueckholen(Pfad, Frage))
+    QString Grund;
+    if (!SicherheitskopieZurueckholen(Pfad, Frage, &Grund))
         return;
     FormulierungenLaden(Pfad, false);
     AktuelleOberflaeche().AnsichtAktualisieren();
-    Melden(QStringLiteral(
-               "Die Beurteilungsformulierungen wurden aus ihrer Sicherheitskopie wiederhergestellt!") +
-           Zeilenende + QStringLiteral("Die ursprüngliche Datei wurde in ") +
-           MitEndung(Pfad, QStringLiteral("_err.txt")) + QStringLiteral(" umbenannt!"));
+    const QString Erfolg =
+        QStringLiteral(
+            "Die Beurteilungsformulierungen wurden aus ihrer Sicherheitskopie wiederhergestellt!") +
+        Zeilenende + QStringLiteral("Die ursprüngliche Datei wurde in ") +
+        MitEndung(Pfad, QStringLiteral("_err.txt")) + QStringLiteral(" umbenannt!");
+    Melden(Grund.isEmpty() ? Erfolg : Grund);
 }
 
 void FormulierungenNeu() {

@@ -64,7 +64,7 @@ bool DateiKopieren(const QString& Von, const QString& Nach, QString* Grund) {
     Dateifehler Lesefehler;
     const auto Inhalt = DateiLesen(Von, &Lesefehler);
     const auto Fehler = Inhalt ? DateiSchreiben(Nach, *Inhalt) : Lesefehler;
-    if (Fehler && Grund)
+    if (Fehler)
         *Grund = Fehler->Text;
     return !Fehler;
 }
@@ -90,8 +90,7 @@ bool SicherheitskopieZurueckholen(const QString& Pfad, const std::function<QStri
     const bool Bewahrt = DateiKopieren(Pfad, MitEndung(Pfad, QStringLiteral("_err.txt")), Grund);
     // What has no copy yet is not overwritten; what is not there needs none.
     if (Bewahrt || !DateiExistiert(Pfad)) {
-        if (Grund)
-            Grund->clear();
+        Grund->clear();
         DateiKopieren(Kopie, Pfad, Grund);
     }
     return true;

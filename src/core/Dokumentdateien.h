@@ -28,7 +28,7 @@ Schreibweg SchreibfehlerZeigen(const Dateifehler& Fehler);
 Speicherausgang DokumentSchreiben(const QString& Pfad, const QByteArray& Inhalt);
 
 /// Copies a file. False, with the reason in *Grund, if that failed.
-bool DateiKopieren(const QString& Von, const QString& Nach, QString* Grund = nullptr);
+bool DateiKopieren(const QString& Von, const QString& Nach, QString* Grund);
 
 /// The backup command on the document at Pfad: copies it over its ".bak" and shows Erfolg. A document without
 /// a file ("Unbenannt", or a path shorter than 5 characters) has to be saved first, and the user is told so.
@@ -39,7 +39,7 @@ void SicherheitskopieAnlegen(const QString& Pfad, const QString& Erfolg);
 /// could not be copied stays as it is. Frage makes the question from the date and time of the backup. False,
 /// without a word, if there is no backup or the path has less than 5 characters; false too on Nein.
 bool SicherheitskopieZurueckholen(const QString& Pfad, const std::function<QString(const QString&)>& Frage,
-                                  QString* Grund = nullptr);
+                                  QString* Grund);
 
 /// Before a file is overwritten by a document whose load had failed: keeps what stands in the file, as a copy
 /// in the state folder, and tells the user where. Nothing to do if there is no file. False, with a message,

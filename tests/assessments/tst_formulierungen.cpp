@@ -694,6 +694,16 @@ class FormulierungenTest : public QObject {
         FormulierungenWiederherstellen();
         QCOMPARE(Namen(), Namensliste("Kopie"));
     }
+
+    void RestoreThatFailsDoesNotClaimSuccess() {
+        const QString Pfad = GeaenderterSpeicher();
+        Datei("a.bak", "[Kopie]\r\n");
+        QVERIFY(QDir().mkpath(Welt.Pfad(QStringLiteral("a_err.txt")))); // the copy cannot be made
+        Welt.Boxen.ErwarteFrage(QStringLiteral("Zu Ihren aktuellen"), Antwort::Ja);
+        Welt.Boxen.ErwarteMeldung(QStringLiteral("Die Datei"));
+        FormulierungenWiederherstellen();
+        QCOMPARE(Testwelt::DateiInhalt(Pfad), Kopfzeile + "[Alt]\r\n");
+    }
 };
 
 TESTKLASSE(FormulierungenTest)
