@@ -94,12 +94,13 @@ void dlgOptions::TabellenEinrichten() {
     Form->tblBLLVVerteilung->verticalHeader()->setDefaultSectionSize(2 * fontMetrics().height());
     for (Gitter* Tabelle : {Form->tblGaussVerteilung, Form->tblEigeneVerteilung})
         connect(Tabelle, &Gitter::LageGeaendert, this, [Tabelle] { ZeilenAngleichen(*Tabelle); });
+    // The buttons stand behind the bars already. To name them once more would cut Qt's ring of widgets in
+    // two, and one half would never get the focus.
     QWidget* Vorher = Form->txtNotenabstand;
     for (Verteilungsleiste* Naechste : Leisten) {
         setTabOrder(Vorher, Naechste);
         Vorher = Naechste;
     }
-    setTabOrder(Vorher, Form->btOK);
 }
 
 void dlgOptions::Verbinden() {
