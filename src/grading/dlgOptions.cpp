@@ -245,7 +245,8 @@ void dlgOptions::Pruefen(const Pruefbox& Box) {
     MeldungZeigen(Ergebnis.Meldung);
     // A click that left the box has lost its release to the message; it counts all the same.
     const auto Danach = [this] {
-        for (QPushButton* Knopf : {Form->btOK, Form->btAbbruch})
+        const auto Knoepfe = findChildren<QAbstractButton*>();
+        for (QAbstractButton* Knopf : Knoepfe)
             if (Knopf->isDown())
                 Knopf->click();
     };

@@ -169,6 +169,27 @@ class TestDlgOptions : public QObject {
         QVERIFY(O.Welt.Boxen.AllesGefragt());
     }
 
+    void einKlickDerEineSchlechteBoxVerlaesstZaehlt_data() {
+        QTest::addColumn<QString>("Knopf");
+        QTest::addColumn<bool>("Gewaehlt");
+        QTest::newRow("radio button") << QStringLiteral("rbNotenBerechnungsMethode_1") << true;
+        QTest::newRow("check box") << QStringLiteral("cbGrenznotenBerechnen") << false;
+    }
+    /// The message takes the release of the mouse button.
+    void einKlickDerEineSchlechteBoxVerlaesstZaehlt() {
+        QFETCH(const QString, Knopf);
+        QFETCH(const bool, Gewaehlt);
+        O.Oeffnen();
+        O.Seite(1);
+        auto* Geklickt = O.Teil<QAbstractButton>(qPrintable(Knopf));
+        O.Welt.Boxen.ErwarteMeldung(Gewichtsmeldung);
+        O.Tippen("txtGewichtungE", QStringLiteral("0"));
+        QTest::mousePress(Geklickt, Qt::LeftButton, {}, QPoint(8, Geklickt->height() / 2));
+        QVERIFY(O.Welt.Boxen.AllesGefragt());
+        QTRY_VERIFY(!Geklickt->isDown());
+        QCOMPARE(Geklickt->isChecked(), Gewaehlt);
+    }
+
     void einDatumWirdBeimVerlassenGeprueft() {
         O.Oeffnen();
         O.Welt.Boxen.ErwarteMeldung(QStringLiteral("Der Wert ist nicht plausibel!"));
