@@ -94,8 +94,9 @@ void dlgOptions::TabellenEinrichten() {
     Form->tblBLLVVerteilung->verticalHeader()->setDefaultSectionSize(2 * fontMetrics().height());
     for (Gitter* Tabelle : {Form->tblGaussVerteilung, Form->tblEigeneVerteilung})
         connect(Tabelle, &Gitter::LageGeaendert, this, [Tabelle] { ZeilenAngleichen(*Tabelle); });
-    // The buttons stand behind the bars already. To name them once more would cut Qt's ring of widgets in
-    // two, and one half would never get the focus.
+    // Only the bars are put in place. The tab widget, which the form leaves out of its order, and the buttons
+    // stand right already: moved with all that belongs to them, they would cut Qt's ring of widgets in two,
+    // and one half would never get the focus.
     QWidget* Vorher = Form->txtNotenabstand;
     for (Verteilungsleiste* Naechste : Leisten) {
         setTabOrder(Vorher, Naechste);
