@@ -101,7 +101,8 @@ void frmMain::FokusNehmen() {
 }
 
 void frmMain::TitelSetzen(const QString& Titel) {
-    setWindowTitle(Titel);
+    const QString Marke = QStringLiteral("[*]"); // Qt's place for a star; doubled it stands for itself
+    setWindowTitle(QString(Titel).replace(Marke, Marke + Marke));
 }
 
 void frmMain::JahrgangWaehlen() {

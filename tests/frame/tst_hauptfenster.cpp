@@ -28,6 +28,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWindow>
 #include <QtTest>
 
 #include <tuple>
@@ -73,6 +74,15 @@ class TestHauptfenster : public QObject {
                               QStringLiteral("Notenliste eines Faches"),
                               QStringLiteral("Notenliste eines Schülers"), QStringLiteral("Beurteilungen")}));
         QCOMPARE(Fenster.Reiter()->currentIndex(), 1);
+    }
+
+    void EinDateinameStehtImTitelSoWieErIst() {
+        Fenster.Starten();
+        for (const char* Name : {"a[*].txt", "a[*][*].txt", "a & b.txt", "<b>.txt"}) {
+            const QString Titel = QStringLiteral("Tafelquell 3.1 - ") + QString::fromLatin1(Name);
+            Fenster->TitelSetzen(Titel);
+            QCOMPARE(Fenster->windowHandle()->title(), Titel);
+        }
     }
 
     void EinKnopfDessenKlickEinenDialogAusloestBleibtNichtUnten() {
