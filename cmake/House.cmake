@@ -8,6 +8,19 @@ endfunction()
 function(tafelquell_fenster_quellen)
   list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE Quellen)
   target_sources(tafelquell_fenster PRIVATE ${Quellen})
+  tafelquell_formen_beachten(${Quellen})
+endfunction()
+
+# A changed form rebuilds what includes its header in the same run. Ninja looks at the headers before uic has written
+# them, and would notice the change only in the next run.
+function(tafelquell_formen_beachten)
+  foreach(Quelle ${ARGN})
+    if(Quelle MATCHES "\\.cpp$")
+      file(STRINGS ${Quelle} Formen REGEX "^#include \"ui_.*\\.h\"")
+      list(TRANSFORM Formen REPLACE "^#include \"ui_(.*)\\.h\"" "${CMAKE_CURRENT_SOURCE_DIR}/\\1.ui")
+      set_source_files_properties(${Quelle} TARGET_DIRECTORY tafelquell_fenster PROPERTIES OBJECT_DEPENDS "${Formen}")
+    endif()
+  endforeach()
 endfunction()
 
 # One test program for a folder of the house: all its tst_*.cpp and the common main.

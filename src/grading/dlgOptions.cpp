@@ -126,14 +126,18 @@ void dlgOptions::Verbinden() {
             &QWidget::setEnabled);
 
     connect(Form->tabOptions, &QTabWidget::currentChanged, this, &dlgOptions::LeisteDerSeiteZeigen);
-    const auto Weiter = [this](QKeySequence::StandardKey Taste, int Schritt) {
-        connect(new QShortcut(Taste, this), &QShortcut::activated, this, [this, Schritt] {
+    const auto Weiter = [this](const QList<QKeySequence>& Tasten, int Schritt) {
+        auto* Befehl = new QShortcut(this);
+        Befehl->setKeys(Tasten);
+        connect(Befehl, &QShortcut::activated, this, [this, Schritt] {
             const int Anzahl = Form->tabOptions->count();
             Form->tabOptions->setCurrentIndex((Form->tabOptions->currentIndex() + Anzahl + Schritt) % Anzahl);
         });
     };
-    Weiter(QKeySequence::NextChild, 1);
-    Weiter(QKeySequence::PreviousChild, -1);
+    Weiter(QKeySequence::keyBindings(QKeySequence::NextChild), 1);
+    // Under X the keys are compared as Tab, where Qt's own list says Backtab.
+    Weiter(QKeySequence::keyBindings(QKeySequence::PreviousChild) << (Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
+           -1);
 
     connect(Form->btOK, &QPushButton::clicked, this, &dlgOptions::Uebernehmen);
     connect(Form->btAbbruch, &QPushButton::clicked, this, &dlgOptions::reject);

@@ -310,6 +310,12 @@ class TestDlgOptions : public QObject {
             QTest::keyClick(O.Dialog->focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
             QCOMPARE(Seiten->currentIndex(), Erwartet);
         }
+        // The keyboard of X says Tab with Shift where others say Backtab.
+        for (const auto& [Taste, Erwartet] :
+             {std::pair(Qt::Key_Tab, 4), {Qt::Key_Backtab, 3}, {Qt::Key_Tab, 2}}) {
+            QTest::keyClick(O.Dialog->focusWidget(), Taste, Qt::ControlModifier | Qt::ShiftModifier);
+            QCOMPARE(Seiten->currentIndex(), Erwartet);
+        }
     }
 
     void tabGehtDurchJedeSeite_data() {
