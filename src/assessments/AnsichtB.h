@@ -26,7 +26,7 @@ class AnsichtB;
 /// Rows of tblBeurteilungen: 0 the header, 1..Rows-2 the students (row datum Schueler.ID), Rows-1 an empty
 /// one. Row r of tblBFloskel is Formulierung[r] of the selected area, the last one the place for a new
 /// phrase. Node i of tvBFloskel is Lernbereiche[i], the last one the place for a new area.
-class AnsichtB : public Ansicht {
+class AnsichtB final : public Ansicht {
     Q_OBJECT
 
   public:

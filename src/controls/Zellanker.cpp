@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScrollArea>
 
 namespace {
 
@@ -11,6 +12,18 @@ bool BeginntEingabe(const QKeyEvent& Taste) {
     if (Taste.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
         return false;
     return !Taste.text().isEmpty() && Taste.text().front().isPrint();
+}
+
+/// A view can be larger than its window and lie in a scroll area: the grid has scrolled the cell into its own
+/// sight, and this goes on with the areas around it, or the user would type blindly.
+void UmgebungRollen(const Gitter& Tabelle, const QRect& Zelle) {
+    for (QWidget* Rahmen = Tabelle.parentWidget(); Rahmen; Rahmen = Rahmen->parentWidget()) {
+        auto* Rollfeld = qobject_cast<QScrollArea*>(Rahmen);
+        if (!Rollfeld)
+            continue;
+        const QPoint Mitte = Tabelle.mapTo(Rollfeld->widget(), Zelle.center());
+        Rollfeld->ensureVisible(Mitte.x(), Mitte.y(), Zelle.width() / 2 + 1, Zelle.height() / 2 + 1);
+    }
 }
 
 } // namespace
@@ -42,6 +55,8 @@ void Zellanker::Anlegen() {
 
 void Zellanker::Zeigen() {
     Anlegen();
+    if (const QRect Zelle = Tabelle->SichtbarerTeil(Tabelle->Row(), Tabelle->Col()); !Zelle.isEmpty())
+        UmgebungRollen(*Tabelle, Zelle);
     Feld->show();
     Feld->raise();
     Feld->setFocus(Qt::OtherFocusReason);

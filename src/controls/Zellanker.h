@@ -16,7 +16,7 @@ class Zellanker : public QObject {
     Zellanker(QWidget* Feld, Gitter* Tabelle);
 
     void Anlegen(); ///< lays the box over the cell, be it shown or not
-    void Zeigen();  ///< the same, and shows it with the focus
+    void Zeigen();  ///< the same, shows it with the focus, and scrolls what is around the grid to it
     void Verbergen();
 
   protected:

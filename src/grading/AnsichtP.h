@@ -24,7 +24,7 @@ class AnsichtP;
 ///
 /// The view shows AktFachID and AktProbe. Grid columns: 0 name, 1 points, 2 grade, 3 hidden ID; row 0 is the
 /// header, the last row the empty one for a new student.
-class AnsichtP : public Ansicht {
+class AnsichtP final : public Ansicht {
     Q_OBJECT
 
   public:

@@ -11,7 +11,7 @@ class AnsichtN1;
 
 /// All grades of one subject, a student in each row: view N1. What it shares with the list of a student is
 /// Notenliste.
-class AnsichtN1 : public Ansicht, private Listenart {
+class AnsichtN1 final : public Ansicht, private Listenart {
     Q_OBJECT
 
   public:

@@ -11,7 +11,7 @@ class AnsichtN2;
 
 /// All grades of one student, a subject in each row: view N2. What it shares with the list of a subject is
 /// Notenliste.
-class AnsichtN2 : public Ansicht, private Listenart {
+class AnsichtN2 final : public Ansicht, private Listenart {
     Q_OBJECT
 
   public:

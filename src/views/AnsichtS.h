@@ -18,7 +18,7 @@ class AnsichtS;
 ///
 /// Columns of tblSSchueler: 0 the name, 1..P the subjects (column datum Fach.ID), P+1..P+14 the free fields.
 /// Rows: 0 the groups, 1 the headers, 2..Rows-2 the students (row datum Schueler.ID), Rows-1 the entry row.
-class AnsichtS : public Ansicht {
+class AnsichtS final : public Ansicht {
     Q_OBJECT
 
   public:

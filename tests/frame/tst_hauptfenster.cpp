@@ -1,4 +1,5 @@
 #include "Hauptfenster.h"
+#include "common/Dialogschritte.h"
 #include "common/Testbuch.h"
 #include "common/Testprogramm.h"
 #include "controls/Ansicht.h"
@@ -21,6 +22,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTimer>
@@ -81,6 +83,22 @@ class TestHauptfenster : public QObject {
             Fenster->TitelSetzen(Titel);
             QCOMPARE(Fenster->windowHandle()->title(), Titel);
         }
+    }
+
+    void EinKnopfDessenKlickEinenDialogAusloestBleibtNichtUnten() {
+        Fenster.Starten();
+        auto* Liste = Fenster.Kind<Kombinationsfeld>("cbPKlasseFach");
+        auto* Knopf = Fenster.Kind<QPushButton>("btPNeuesFach");
+        Liste->setFocus();
+        QTest::keyClicks(Liste, QStringLiteral("7a Physik"));
+        Dialogschritte Schritte;
+        // The box is left first, and its dialog gets the release of the mouse button.
+        Schritte.Erwarte(QStringLiteral("dlgNeuesFach1"), [](QDialog& Dialog) {
+            QTest::mouseRelease(&Dialog, Qt::LeftButton);
+            Dialog.reject();
+        });
+        QTest::mousePress(Knopf, Qt::LeftButton);
+        QTRY_VERIFY(!Knopf->isDown());
     }
 
     void DieListeDerSchuljahreHat35Eintraege() {

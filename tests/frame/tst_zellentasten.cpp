@@ -67,6 +67,22 @@ class TestZellentasten : public QObject {
         QTest::mouseClick(Tabelle->viewport(), Qt::LeftButton, {}, Ort);
     }
 
+    static void SechzigSchueler() {
+        for (int i = 1; i < 60; ++i) {
+            Datenbank.Schueler[i] = Datenbank.Schueler[0];
+            Datenbank.Schueler[i].ID = 10000 + i;
+            Datenbank.Noten[i] = Datenbank.Noten[0];
+            Datenbank.Noten[i].Schueler_ID = 10000 + i;
+        }
+        Datenbank.AnzSchueler = Datenbank.AnzNoten = 60;
+    }
+
+    static void AlleListen() {
+        QTest::addColumn<int>("Listennummer");
+        for (int i = 0; i < 4; ++i)
+            QTest::newRow(Listen()[static_cast<std::size_t>(i)].Gitter) << i;
+    }
+
     static void TastenUndListen() {
         QTest::addColumn<int>("Listennummer");
         QTest::addColumn<int>("Tastennummer");
@@ -139,14 +155,31 @@ class TestZellentasten : public QObject {
         QVERIFY(QApplication::focusWidget());
     }
 
-    void DasRadAufDemFeldRolltDieListe() {
-        for (int i = 1; i < 60; ++i) {
-            Datenbank.Schueler[i] = Datenbank.Schueler[0];
-            Datenbank.Schueler[i].ID = 10000 + i;
-            Datenbank.Noten[i] = Datenbank.Noten[0];
-            Datenbank.Noten[i].Schueler_ID = 10000 + i;
+    /// At the size of a first start the larger views are only seen in part.
+    void DasFeldBleibtAuchImKleinstenFensterInSicht_data() { AlleListen(); }
+    void DasFeldBleibtAuchImKleinstenFensterInSicht() {
+        QFETCH(int, Listennummer);
+        const Liste Welche = Listen()[static_cast<std::size_t>(Listennummer)];
+        SechzigSchueler();
+        Fenster->resize(640, 400);
+        Fenster.Reiter()->setCurrentIndex(Welche.Reiter);
+        Fenster->AnsichtAktualisieren();
+        QCoreApplication::processEvents();
+        auto* Tabelle = Fenster.Kind<Gitter>(Welche.Gitter);
+        auto* Feld = Fenster.Kind<EingabeFeld>(Welche.Feld);
+        Tabelle->Enter(Welche.Zeile, 1);
+        for (int i = 0; i < 70; ++i) {
+            if (i < 35)
+                QTest::keyClick(Feld, Qt::Key_Right, Qt::ShiftModifier);
+            else
+                QTest::keyClick(Feld, Qt::Key_Down);
+            QVERIFY2(Feld->visibleRegion().boundingRect() == Feld->rect(),
+                     qPrintable(QStringLiteral("Zelle (%1,%2)").arg(Tabelle->Row()).arg(Tabelle->Col())));
         }
-        Datenbank.AnzSchueler = Datenbank.AnzNoten = 60;
+    }
+
+    void DasRadAufDemFeldRolltDieListe() {
+        SechzigSchueler();
         Oeffnen(Listen()[2]);
         auto* Tabelle = Fenster.Kind<Gitter>("tblN1Noten");
         auto* Feld = Fenster.Kind<EingabeFeld>("txtN1Eingabe");
