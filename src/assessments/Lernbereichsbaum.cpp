@@ -23,6 +23,7 @@ class Beschriftung : public QStyledItemDelegate {
     QWidget* createEditor(QWidget* Eltern, const QStyleOptionViewItem&, const QModelIndex&) const override {
         auto* Feld = new Textfeld(Eltern);
         Feld->setAccessibleName(QStringLiteral("Name des Lernbereichs"));
+        connect(Feld, &Textfeld::Verlassen, Baum, [Baum = Baum, Feld] { Baum->BeschriftungBeenden(Feld); });
         return Feld;
     }
 
@@ -34,6 +35,12 @@ class Beschriftung : public QStyledItemDelegate {
         const QString Text = qobject_cast<QLineEdit*>(Feld)->text();
         if (Text != Stelle.data().toString())
             Q_EMIT Baum->Beschriftet(Stelle.row(), Text);
+    }
+
+    /// The box itself knows when it is left. Qt would close it as soon as a menu is opened, and Copy, Cut and
+    /// Paste would have no box to act on.
+    bool eventFilter(QObject* Feld, QEvent* Ereignis) override {
+        return Ereignis->type() != QEvent::FocusOut && QStyledItemDelegate::eventFilter(Feld, Ereignis);
     }
 
   private:
@@ -159,6 +166,14 @@ void Lernbereichsbaum::keyReleaseEvent(QKeyEvent* Ereignis) {
     if (IstLoeschtaste(*Ereignis) && !Ereignis->isAutoRepeat() && std::exchange(Loeschtaste, false) &&
         hasFocus())
         Q_EMIT LoeschenGewuenscht();
+}
+
+/// While Return or Esc closes the box, it is left too.
+void Lernbereichsbaum::BeschriftungBeenden(QWidget* Feld) {
+    if (state() != EditingState)
+        return;
+    commitData(Feld);
+    closeEditor(Feld, QAbstractItemDelegate::NoHint);
 }
 
 void Lernbereichsbaum::startDrag(Qt::DropActions) {

@@ -22,6 +22,8 @@ class Lernbereichsbaum : public QTreeWidget {
     void setHervorgehoben(int Knoten); ///< the drop place; -1: none
     int Hervorgehoben() const { return Ziel; }
 
+    void BeschriftungBeenden(QWidget* Feld); ///< the box of a label was left: its text is taken
+
   Q_SIGNALS:
     void Gewaehlt(); ///< by mouse or key, also the same node again by a click
     /// A label was edited to another text, which may be empty. The receiver sets the label that is to stand.

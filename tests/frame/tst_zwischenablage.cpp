@@ -18,6 +18,7 @@
 #include <QSignalSpy>
 #include <QToolBar>
 #include <QToolButton>
+#include <QTreeWidget>
 #include <QtTest>
 
 class TestZwischenablage : public QObject {
@@ -35,6 +36,18 @@ class TestZwischenablage : public QObject {
         Feld->setFocusPolicy(Qt::StrongFocus);
         Feld->show();
         Feld->setFocus();
+        return Feld;
+    }
+
+    /// The box over the label of the place for a new learning area, all selected.
+    Textfeld* BeschriftungOeffnen() {
+        Fenster.Reiter()->setCurrentIndex(4);
+        auto* Baum = Fenster.Kind<QTreeWidget>("tvBFloskel");
+        Baum->setFocus();
+        Baum->setCurrentItem(Baum->topLevelItem(AnzLernbereiche));
+        QTest::keyClick(Baum, Qt::Key_F2);
+        auto* Feld = Baum->viewport()->findChild<Textfeld*>();
+        Feld->selectAll();
         return Feld;
     }
 
@@ -157,6 +170,29 @@ class TestZwischenablage : public QObject {
         QTest::keyClick(Fenster.Menue("mnuEdit"), Qt::Key_U);
         QCOMPARE(Ablage().text(), QStringLiteral("Anna"));
         QCOMPARE(Feld->text(), QString());
+    }
+
+    void EinMenueSchliesstDieBeschriftungEinesLernbereichsNicht() {
+        Textfeld* Feld = BeschriftungOeffnen();
+        QTest::keyClick(Feld, Qt::Key_B, Qt::AltModifier);
+        QTRY_VERIFY(Fenster.Menue("mnuEdit")->isVisible());
+        QTest::keyClick(Fenster.Menue("mnuEdit"), Qt::Key_K);
+        QCOMPARE(Ablage().text(), QStringLiteral("**Neuer Lernbereich**"));
+        QVERIFY(Feld->hasFocus());
+        QTest::keyClick(Feld, Qt::Key_B, Qt::AltModifier);
+        QTRY_VERIFY(Fenster.Menue("mnuEdit")->isVisible());
+        QTest::keyClick(Fenster.Menue("mnuEdit"), Qt::Key_U);
+        QCOMPARE(Feld->text(), QString());
+    }
+
+    void EinMenuebefehlUebernimmtDieBeschriftungEinesLernbereichs() {
+        Textfeld* Feld = BeschriftungOeffnen();
+        QTest::keyClicks(Feld, QStringLiteral("Sport"));
+        QTest::keyClick(Feld, Qt::Key_A, Qt::AltModifier);
+        QTRY_VERIFY(Fenster.Menue("mnuView")->isVisible());
+        QTest::keyClick(Fenster.Menue("mnuView"), Qt::Key_S);
+        QCOMPARE(Lernbereiche[AnzLernbereiche - 1].Name, QStringLiteral("Sport"));
+        FormulierungenGeaendert = false;
     }
 
     void EinMehrzeiligesFeldGehtGenauso() {
