@@ -129,13 +129,25 @@ void Lernbereichsbaum::KnotenGewechselt() {
 
 void Lernbereichsbaum::mousePressEvent(QMouseEvent* Ereignis) {
     DruckKnoten = KnotenBei(Ereignis->position().toPoint());
-    const int Vorher = Knoten();
+    Vorher = Knoten();
     QTreeWidget::mousePressEvent(Ereignis);
     if (DruckKnoten >= 0 && DruckKnoten == Vorher)
         Q_EMIT Gewaehlt();
 }
 
+/// A slow second click opens its label only when no third one has come. Until then the user may have gone on
+/// to a key, another box or another view: the label must not take what is typed there.
+void Lernbereichsbaum::WartendenKlickVergessen() {
+    edit(currentIndex(), CurrentChanged, nullptr); // opens nothing, and stops the clock of the view
+}
+
+void Lernbereichsbaum::focusOutEvent(QFocusEvent* Ereignis) {
+    WartendenKlickVergessen();
+    QTreeWidget::focusOutEvent(Ereignis);
+}
+
 void Lernbereichsbaum::keyPressEvent(QKeyEvent* Ereignis) {
+    WartendenKlickVergessen();
     if (IstLoeschtaste(*Ereignis) && !Ereignis->isAutoRepeat())
         Loeschtaste = true;
     QTreeWidget::keyPressEvent(Ereignis);
@@ -150,5 +162,6 @@ void Lernbereichsbaum::keyReleaseEvent(QKeyEvent* Ereignis) {
 }
 
 void Lernbereichsbaum::startDrag(Qt::DropActions) {
+    setCurrentItem(topLevelItem(Vorher));
     Q_EMIT ZiehenBegonnen();
 }

@@ -3,7 +3,8 @@
 #include <QTreeWidget>
 
 /// The flat list of learning areas with editable labels. Nodes are counted from 0; the last one stands for a
-/// new area. The selected node is bold. A label is edited by F2 or a slow second click.
+/// new area. The selected node is bold. A label is edited by F2 or a slow second click. A press selects its
+/// node, but a drag gives the selection back: carrying an area is no choice of it.
 class Lernbereichsbaum : public QTreeWidget {
     Q_OBJECT
 
@@ -32,13 +33,16 @@ class Lernbereichsbaum : public QTreeWidget {
     void mousePressEvent(QMouseEvent* Ereignis) override;
     void keyPressEvent(QKeyEvent* Ereignis) override;
     void keyReleaseEvent(QKeyEvent* Ereignis) override;
+    void focusOutEvent(QFocusEvent* Ereignis) override;
     void startDrag(Qt::DropActions Moegliche) override;
 
   private:
     void FettSetzen();
+    void WartendenKlickVergessen();
     void KnotenGewechselt();
 
     int DruckKnoten = -1;
+    int Vorher = -1; ///< the selected node before the mouse-down
     int Ziel = -1;
     bool Still = false;
     bool Loeschtaste = false; ///< went down here

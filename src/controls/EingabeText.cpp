@@ -182,6 +182,8 @@ void EingabeText::keyPressEvent(QKeyEvent* Ereignis) {
         EntfallenMelden(this);
     else if (Umbruch)
         insertPlainText(QStringLiteral("\n")); // Shift+Return would make a break that is none in the records
+    else if (Zeichen.size() > 1)               // of a composing keyboard
+        insertPlainText(Bereinigt(Zeichen));
     else
         QPlainTextEdit::keyPressEvent(Ereignis);
 }

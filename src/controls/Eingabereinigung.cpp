@@ -17,9 +17,9 @@ QString EingabeBereinigt(const QString& Text, bool Mehrzeilig, int* Entfallen) {
 }
 
 bool TasteUnbrauchbar(const QString& Tastentext) {
-    if (Tastentext.isEmpty() || Tastentext.front().isMark() || !Tastentext.front().isPrint())
-        return false;
-    return CodeseiteBereinigt(Tastentext).isEmpty();
+    // Qt's boxes take more than what is printed: format characters, halves of a pair, private use. Control
+    // characters have bytes; the boxes leave them out themselves.
+    return !Tastentext.isEmpty() && !Tastentext.front().isMark() && CodeseiteBereinigt(Tastentext).isEmpty();
 }
 
 void EntfallenMelden(QWidget* Feld) {

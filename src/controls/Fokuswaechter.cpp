@@ -27,7 +27,7 @@ bool Fokuswaechter::eventFilter(QObject* Objekt, QEvent* Ereignis) {
     if (Objekt == Feld && Ereignis->type() == QEvent::FocusIn)
         Hinein();
     else if (Objekt == Feld && Ereignis->type() == QEvent::FocusOut &&
-             !NurVorn(static_cast<QFocusEvent*>(Ereignis)->reason()))
+             !NurVorn(static_cast<QFocusEvent*>(Ereignis)->reason()) && !EigeneListeOffen())
         Hinaus();
     return QObject::eventFilter(Objekt, Ereignis);
 }
@@ -37,6 +37,12 @@ void Fokuswaechter::Hinein() {
         return;
     Drin = true;
     Q_EMIT Betreten();
+}
+
+/// The list of a combo box takes the focus for a reason like any other; its box is not left by that.
+bool Fokuswaechter::EigeneListeOffen() const {
+    const QWidget* Offen = QApplication::activePopupWidget();
+    return Offen && Offen->parentWidget() == Feld;
 }
 
 /// A box that is destroyed loses the focus when its own class is no longer there to answer.

@@ -30,6 +30,7 @@ class Fokuswaechter : public QObject {
     void Hinaus();
     void FokusGewechselt(QWidget* Jetzt);
 
+    bool EigeneListeOffen() const;
     bool FeldBesteht() const;
 
     QWidget* Feld;

@@ -57,11 +57,15 @@ void Gitter::mouseDoubleClickEvent(QMouseEvent* Ereignis) {
 }
 
 /// Tab in a box over a cell leaves the box for the next control. Qt's views would go on to another cell, and
-/// what was typed would be gone.
+/// what was typed would be gone. The control before a box is its own grid, where one more step back would
+/// open the box again, on the cell before: that way through a list is hundreds of keys long.
 bool Gitter::focusNextPrevChild(bool Vorwaerts) {
     if (hasFocus())
         return QTableView::focusNextPrevChild(Vorwaerts);
-    return QWidget::focusNextPrevChild(Vorwaerts); // NOLINT(bugprone-parent-virtual-call): not the views' way
+    // NOLINTBEGIN(bugprone-parent-virtual-call): not the views' way
+    const bool Gegangen = QWidget::focusNextPrevChild(Vorwaerts);
+    return hasFocus() ? QWidget::focusNextPrevChild(Vorwaerts) : Gegangen;
+    // NOLINTEND(bugprone-parent-virtual-call)
 }
 
 void Gitter::keyPressEvent(QKeyEvent* Ereignis) {

@@ -15,6 +15,8 @@ class Zeichenflaeche {
     virtual void Leeren() = 0;
     virtual void Sichtbar(bool Zeigen) = 0;
     virtual void Schrift(double Groesse, bool Fett) = 0; ///< size in points
+    /// Sets and measures all text from here on in this share of its own width, above 0; its height stays.
+    virtual void Schriftweite(double Anteil) = 0;
     virtual double TextBreite(const QString& Text) const = 0;
     virtual double TextHoehe(const QString& Text) const = 0;
     virtual void Text(double X, double Y, const QString& Text, QRgb Farbe) = 0;   ///< X, Y: left top corner

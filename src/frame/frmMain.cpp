@@ -101,7 +101,8 @@ void frmMain::FokusNehmen() {
 }
 
 void frmMain::TitelSetzen(const QString& Titel) {
-    setWindowTitle(Titel);
+    const QString Marke = QStringLiteral("[*]"); // Qt's place for a star; doubled it stands for itself
+    setWindowTitle(QString(Titel).replace(Marke, Marke + Marke));
 }
 
 void frmMain::JahrgangWaehlen() {
@@ -241,7 +242,18 @@ bool frmMain::event(QEvent* Ereignis) {
     // The other views can wait until the first one is to be seen.
     if (Ereignis->type() == QEvent::Paint && picAnsicht.contains(nullptr))
         QTimer::singleShot(0, this, &frmMain::UebrigeAnsichtenBauen);
+    if (Ereignis->type() == QEvent::WindowUnblocked)
+        QTimer::singleShot(0, this, &frmMain::KnoepfeLoesen);
     return QMainWindow::event(Ereignis);
+}
+
+/// A click on a button that leaves a box may open that box's dialog first, and the dialog gets the release.
+void frmMain::KnoepfeLoesen() {
+    if (QGuiApplication::mouseButtons() != Qt::NoButton)
+        return;
+    const auto Knoepfe = findChildren<QAbstractButton*>();
+    for (QAbstractButton* Knopf : Knoepfe)
+        Knopf->setDown(false);
 }
 
 #include "moc_frmMain.cpp"

@@ -70,6 +70,7 @@ class frmMain : public QMainWindow, public Oberflaeche {
     Ansicht& AnsichtHolen(int Nummer); ///< of this tab; built now if it has not been wanted before
     void UebrigeAnsichtenBauen();
     void LeisteAnsEndeDerReihe();
+    void KnoepfeLoesen(); ///< no button stays down that nobody holds any more
     void BefehlAusfuehren(const Menueintrag& Eintrag);
     void EintragErlauben(const QString& Name, bool Erlaubt);
     void Hinweis(const QString& Text);

@@ -58,6 +58,16 @@ class Diagramm {
 
     void XStrich(double X) { Flaeche.Linie(X, yA + 3 * ty, 0, -6 * ty, Schwarz); }
 
+    /// Makes room for the numbers below the X axis, of which Hoechste and the one before it are the widest
+    /// neighbours. Their size and places are fixed, and many fonts are too wide for that: numbers that would
+    /// run into each other are set narrower, as far as they can still be read.
+    void XZahlenEinpassen(int Hoechste, int Naechste, double Abstand) {
+        const double Zusammen =
+            Flaeche.TextBreite(QString::number(Hoechste)) + Flaeche.TextBreite(QString::number(Naechste));
+        Flaeche.Schriftweite(std::clamp((Abstand - 3 * tx) / (Zusammen / 2), 0.4, 1.0));
+    }
+    void XZahlenFertig() { Flaeche.Schriftweite(1); }
+
     void XBeschriften(double Mitte, int Zahl) {
         const QString Text = QString::number(Zahl);
         Flaeche.Text(Mitte - Flaeche.TextBreite(Text) / 2, yA + 3 * ty, Text, Schwarz);
@@ -136,8 +146,11 @@ void PunkteDiagramm(Zeichenflaeche& Flaeche, const Diagrammplatz& Platz, const P
     for (int i = 1; i <= n; ++i)
         Bild.XStrich(Bild.Links + Balkenbreite * i);
     const int Schritt = XSchritt(Bild.PW, n);
+    const int Letzte = 1 + (static_cast<int>(n) - 1) / Schritt * Schritt;
+    Bild.XZahlenEinpassen(Letzte / 2, (Letzte - Schritt) / 2, Balkenbreite * Schritt);
     for (int i = 1; i <= n; i += Schritt)
         Bild.XBeschriften(Bild.Links + Balkenbreite * (n - i - 0.5), i / 2);
+    Bild.XZahlenFertig();
 
     int Maximum = 0;
     for (int i = 1; i <= n; ++i)

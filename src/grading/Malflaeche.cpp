@@ -47,7 +47,7 @@ void Malflaeche::Schrift(double Punkte, bool Fett) {
 }
 
 double Malflaeche::TextBreite(const QString& Text) const {
-    return QFontMetricsF(Maler.font(), Maler.device()).horizontalAdvance(Text) * TwipsJeEinheit;
+    return QFontMetricsF(Maler.font(), Maler.device()).horizontalAdvance(Text) * Weite * TwipsJeEinheit;
 }
 
 double Malflaeche::TextHoehe(const QString& /*Text*/) const {
@@ -63,7 +63,11 @@ void Malflaeche::Stift(QRgb Farbe) {
 void Malflaeche::Text(double X, double Y, const QString& Text, QRgb Farbe) {
     Stift(Farbe);
     const double Grundlinie = QFontMetricsF(Maler.font(), Maler.device()).ascent();
-    Maler.drawText(QPointF(InEinheiten(X), InEinheiten(Y) + Grundlinie), Text);
+    const QTransform Vorher = Maler.transform();
+    Maler.translate(InEinheiten(X), InEinheiten(Y) + Grundlinie);
+    Maler.scale(Weite, 1);
+    Maler.drawText(QPointF(0, 0), Text);
+    Maler.setTransform(Vorher);
 }
 
 void Malflaeche::Linie(double X, double Y, double DX, double DY, QRgb Farbe) {

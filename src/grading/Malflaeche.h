@@ -28,6 +28,7 @@ class Malflaeche : public Zeichenflaeche {
     void Leeren() override;                    ///< white, like paper, whatever the palette
     void Sichtbar(bool /*Zeigen*/) override {} ///< a painter shows its picture at once when it is complete
     void Schrift(double Punkte, bool Fett) override;
+    void Schriftweite(double Anteil) override { Weite = Anteil; }
     double TextBreite(const QString& Text) const override;
     double TextHoehe(const QString& Text) const override;
     void Text(double X, double Y, const QString& Text, QRgb Farbe) override;
@@ -43,4 +44,5 @@ class Malflaeche : public Zeichenflaeche {
     QSizeF Groesse;
     Art WelcheArt;
     double TwipsJeEinheit;
+    double Weite = 1;
 };

@@ -94,12 +94,14 @@ void dlgOptions::TabellenEinrichten() {
     Form->tblBLLVVerteilung->verticalHeader()->setDefaultSectionSize(2 * fontMetrics().height());
     for (Gitter* Tabelle : {Form->tblGaussVerteilung, Form->tblEigeneVerteilung})
         connect(Tabelle, &Gitter::LageGeaendert, this, [Tabelle] { ZeilenAngleichen(*Tabelle); });
+    // Only the bars are put in place. The tab widget, which the form leaves out of its order, and the buttons
+    // stand right already: moved with all that belongs to them, they would cut Qt's ring of widgets in two,
+    // and one half would never get the focus.
     QWidget* Vorher = Form->txtNotenabstand;
     for (Verteilungsleiste* Naechste : Leisten) {
         setTabOrder(Vorher, Naechste);
         Vorher = Naechste;
     }
-    setTabOrder(Vorher, Form->btOK);
 }
 
 void dlgOptions::Verbinden() {
@@ -244,7 +246,8 @@ void dlgOptions::Pruefen(const Pruefbox& Box) {
     MeldungZeigen(Ergebnis.Meldung);
     // A click that left the box has lost its release to the message; it counts all the same.
     const auto Danach = [this] {
-        for (QPushButton* Knopf : {Form->btOK, Form->btAbbruch})
+        const auto Knoepfe = findChildren<QAbstractButton*>();
+        for (QAbstractButton* Knopf : Knoepfe)
             if (Knopf->isDown())
                 Knopf->click();
     };

@@ -190,8 +190,8 @@ void AnsichtN2::NeueKlasse() {
 }
 
 void AnsichtN2::KlasseLoeschen() {
-    KlasseLoeschenFragen(Form->cbN2Klasse->currentText());
-    Q_EMIT AktualisierenGewuenscht();
+    if (KlasseLoeschenFragen(Form->cbN2Klasse->currentText()))
+        Q_EMIT AktualisierenGewuenscht();
 }
 
 void AnsichtN2::NeuesFach() {

@@ -229,6 +229,6 @@ void AnsichtS::NeueKlasse() {
 }
 
 void AnsichtS::KlasseLoeschen() {
-    KlasseLoeschenFragen(cbSKlasse->currentText());
-    Q_EMIT AktualisierenGewuenscht();
+    if (KlasseLoeschenFragen(cbSKlasse->currentText()))
+        Q_EMIT AktualisierenGewuenscht();
 }

@@ -291,6 +291,17 @@ class AnsichtBSchuelerTest : public QObject {
         QCOMPARE(Text(0), QStringLiteral("abc d\r\ne\r\nf"));
     }
 
+    void KeysThatGiveMoreThanAPrintedCharacterAreCleanedToo() {
+        F->KlickAufSchueler(2);
+        for (const auto& Zeichen :
+             {QStringLiteral("\u200C"), QStringLiteral("\U0001F600"), QStringLiteral("\uE000"),
+              QStringLiteral("u\u0308"), QStringLiteral("x\u0142")}) {
+            QKeyEvent Taste(QEvent::KeyPress, 0, Qt::NoModifier, Zeichen);
+            QCoreApplication::sendEvent(&F->Text(), &Taste);
+        }
+        QCOMPARE(Text(0), QStringLiteral("üx"));
+    }
+
     void AnAccentTypedBehindALetterJoinsIt() {
         F->KlickAufSchueler(2);
         QTest::keyClicks(&F->Text(), QStringLiteral("u"));

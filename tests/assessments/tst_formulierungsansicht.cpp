@@ -656,6 +656,27 @@ class FormulierungsansichtTest : public QObject {
         QTRY_VERIFY(F->Baum().viewport()->findChild<QLineEdit*>());
     }
 
+    void ASlowSecondClickIsForgottenWhenTheUserHasGoneToAnotherBox() {
+        const int Vorher = QApplication::doubleClickInterval();
+        QApplication::setDoubleClickInterval(1);
+        F->KlickAufKnoten(1);
+        F->KlickAufKnoten(1);
+        QApplication::setDoubleClickInterval(Vorher);
+        F->Vorname().setFocus();
+        bool Abgelaufen = false;
+        QTimer::singleShot(5, this, [&Abgelaufen] { Abgelaufen = true; });
+        QTRY_VERIFY(Abgelaufen);
+        QVERIFY(F->Vorname().hasFocus());
+        QVERIFY(!F->Baum().viewport()->findChild<QLineEdit*>());
+    }
+
+    void AKeyDoesNotWaitForASlowSecondClick() {
+        F->KlickAufKnoten(1);
+        F->KlickAufKnoten(1);
+        QTest::keyClick(&F->Baum(), Qt::Key_F2);
+        QVERIFY(F->Baum().viewport()->findChild<QLineEdit*>());
+    }
+
     void TheMouseOverTheFrameClearsTheHint() {
         F->Hinweis = QStringLiteral("alt");
         QTest::mouseMove(&F->Teil("fmFloskel"), QPoint(3, F->Teil("fmFloskel").height() - 3));

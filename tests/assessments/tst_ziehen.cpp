@@ -328,6 +328,23 @@ class ZiehenTest : public QObject {
         QCOMPARE(F->Knoten(), Saetze({"A", "<B>", "C", "**Neuer Lernbereich**"}));
     }
 
+    void ADragGivesBackTheSelectionThatThePressTook() {
+        QStringList BeimZug;
+        disconnect(&F->Baum(), &Lernbereichsbaum::ZiehenBegonnen, nullptr, nullptr);
+        connect(&F->Baum(), &Lernbereichsbaum::ZiehenBegonnen, this, [&] { BeimZug = F->Knoten(); });
+        F->KlickAufKnoten(2);
+        F->KnotenDruecken(1);
+        QCOMPARE(F->Knoten(), Saetze({"A", "<B>", "C", "**Neuer Lernbereich**"}));
+        const QPoint Ort = F->KnotenOrt(1) + QPoint(QApplication::startDragDistance() + 1, 0);
+        for (int i = 0; i < 2; ++i) {
+            QMouseEvent Zug(QEvent::MouseMove, Ort, Baum().mapToGlobal(Ort), Qt::NoButton, Qt::LeftButton,
+                            Qt::NoModifier);
+            QCoreApplication::sendEvent(&Baum(), &Zug);
+        }
+        QCOMPARE(BeimZug, Saetze({"A", "B", "<C>", "**Neuer Lernbereich**"}));
+        QCOMPARE(F->Baum().GezogenerKnoten(), 1);
+    }
+
     void TheNewAreaCannotBeMoved() {
         F->KnotenDruecken(3);
         F->Ablegen(Baum(), Ziehart::Lernbereich, F->KnotenOrt(0));

@@ -8,6 +8,7 @@
 ///
 ///   Leeren | Unsichtbar | Sichtbar
 ///   Schrift 12 fett
+///   Weite 0.8, when it changes
 ///   Text 100 60 Titel
 ///   Linie 750 4475 +8700 +0 000000
 ///   Kasten 750 4475 +100 -20 000077
@@ -47,8 +48,13 @@ class Zeichenprotokoll : public Zeichenflaeche {
         Zeilen.append(QStringLiteral("Schrift %1").arg(Zahl(Punkte)) +
                       (Fett ? QStringLiteral(" fett") : QString()));
     }
+    void Schriftweite(double Anteil) override {
+        if (Anteil != Weite)
+            Zeilen.append(QStringLiteral("Weite %1").arg(Zahl(Anteil)));
+        Weite = Anteil;
+    }
     double TextBreite(const QString& Text) const override {
-        return static_cast<double>(Text.size()) * 10 * Schriftgrad;
+        return static_cast<double>(Text.size()) * 10 * Schriftgrad * Weite;
     }
     double TextHoehe(const QString& /*Text*/) const override { return 20 * Schriftgrad; }
     void Text(double X, double Y, const QString& Text, QRgb /*Farbe*/) override {
@@ -81,4 +87,5 @@ class Zeichenprotokoll : public Zeichenflaeche {
     double GanzeHoehe;
     Art WelcheArt;
     double Schriftgrad = 0;
+    double Weite = 1;
 };

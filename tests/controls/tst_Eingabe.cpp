@@ -379,6 +379,8 @@ class KombinationsfeldTest : public QObject {
     void choosingByCodeIsKlick();
     void plainQtInterfaceIsKlickToo();
     void sameEntryChosenAgainByTheUserIsKlick();
+    void openingTheListDoesNotLeaveTheTypedText();
+    void typedTextWaitsBehindTheOpenList();
     void typedTextHasNoIndexAndStays();
     void textSetFromOutsideHasNoIndex();
     void nothingIsCompletedNorInserted();
@@ -534,6 +536,33 @@ void KombinationsfeldTest::sameEntryChosenAgainByTheUserIsKlick() {
     QTest::keyClick(Feld->view(), Qt::Key_Return);
     QTRY_COMPARE(Klick.count(), 2);
     QCOMPARE(Feld->ListIndex(), 1);
+}
+
+void KombinationsfeldTest::openingTheListDoesNotLeaveTheTypedText() {
+    Tippen(Feld, QStringLiteral("9z"));
+    QSignalSpy Anlegen(Feld, &Kombinationsfeld::Anlegen);
+    QSignalSpy Klick(Feld, &Kombinationsfeld::Klick);
+    Feld->showPopup();
+    QTRY_VERIFY(Feld->view()->isVisible());
+    QCOMPARE(Anlegen.count(), 0);
+    QTest::keyClick(Feld->view(), Qt::Key_Down);
+    QTest::keyClick(Feld->view(), Qt::Key_Return);
+    QTRY_COMPARE(Klick.count(), 1);
+    QCOMPARE(Anlegen.count(), 0);
+    QVERIFY(Feld->ListIndex() >= 0);
+}
+
+void KombinationsfeldTest::typedTextWaitsBehindTheOpenList() {
+    Tippen(Feld, QStringLiteral("9z"));
+    QSignalSpy Anlegen(Feld, &Kombinationsfeld::Anlegen);
+    Feld->showPopup();
+    QTRY_VERIFY(Feld->view()->isVisible());
+    QTest::keyClick(Feld->view(), Qt::Key_Escape);
+    QTRY_VERIFY(!Feld->view()->isVisible());
+    QCOMPARE(Feld->currentText(), QStringLiteral("9z"));
+    QCOMPARE(Anlegen.count(), 0);
+    Feld->clearFocus();
+    QCOMPARE(Anlegen.count(), 1);
 }
 
 void KombinationsfeldTest::typedTextHasNoIndexAndStays() {

@@ -1,4 +1,5 @@
 #include "Hauptfenster.h"
+#include "common/Dialogschritte.h"
 #include "common/Testbuch.h"
 #include "common/Testprogramm.h"
 #include "controls/Ansicht.h"
@@ -21,11 +22,13 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWindow>
 #include <QtTest>
 
 #include <tuple>
@@ -71,6 +74,31 @@ class TestHauptfenster : public QObject {
                               QStringLiteral("Notenliste eines Faches"),
                               QStringLiteral("Notenliste eines Schülers"), QStringLiteral("Beurteilungen")}));
         QCOMPARE(Fenster.Reiter()->currentIndex(), 1);
+    }
+
+    void EinDateinameStehtImTitelSoWieErIst() {
+        Fenster.Starten();
+        for (const char* Name : {"a[*].txt", "a[*][*].txt", "a & b.txt", "<b>.txt"}) {
+            const QString Titel = QStringLiteral("Tafelquell 3.1 - ") + QString::fromLatin1(Name);
+            Fenster->TitelSetzen(Titel);
+            QCOMPARE(Fenster->windowHandle()->title(), Titel);
+        }
+    }
+
+    void EinKnopfDessenKlickEinenDialogAusloestBleibtNichtUnten() {
+        Fenster.Starten();
+        auto* Liste = Fenster.Kind<Kombinationsfeld>("cbPKlasseFach");
+        auto* Knopf = Fenster.Kind<QPushButton>("btPNeuesFach");
+        Liste->setFocus();
+        QTest::keyClicks(Liste, QStringLiteral("7a Physik"));
+        Dialogschritte Schritte;
+        // The box is left first, and its dialog gets the release of the mouse button.
+        Schritte.Erwarte(QStringLiteral("dlgNeuesFach1"), [](QDialog& Dialog) {
+            QTest::mouseRelease(&Dialog, Qt::LeftButton);
+            Dialog.reject();
+        });
+        QTest::mousePress(Knopf, Qt::LeftButton);
+        QTRY_VERIFY(!Knopf->isDown());
     }
 
     void DieListeDerSchuljahreHat35Eintraege() {

@@ -132,14 +132,26 @@ class TestZellentasten : public QObject {
                                 .arg(Zelle, *Welche.Satz, Feld->text())));
     }
 
-    void TabGehtVomFeldZumNaechstenSteuerelement_data() { AlleListen(); }
-    void TabGehtVomFeldZumNaechstenSteuerelement() {
+    void TabGehtVomFeldZumNachbarnDerListe_data() {
+        QTest::addColumn<int>("Listennummer");
+        QTest::addColumn<Qt::Key>("Taste");
+        QTest::addColumn<Qt::KeyboardModifiers>("Zusatz");
+        for (int i = 0; i < 4; ++i) {
+            const char* Name = Listen()[static_cast<std::size_t>(i)].Gitter;
+            QTest::addRow("%s Tab", Name) << i << Qt::Key_Tab << Qt::KeyboardModifiers();
+            QTest::addRow("%s Backtab", Name)
+                << i << Qt::Key_Backtab << Qt::KeyboardModifiers(Qt::ShiftModifier);
+        }
+    }
+    void TabGehtVomFeldZumNachbarnDerListe() {
         QFETCH(int, Listennummer);
+        QFETCH(Qt::Key, Taste);
+        QFETCH(Qt::KeyboardModifiers, Zusatz);
         const Liste Welche = Listen()[static_cast<std::size_t>(Listennummer)];
         Oeffnen(Welche);
         auto* Tabelle = Fenster.Kind<Gitter>(Welche.Gitter);
         auto* Feld = Fenster.Kind<EingabeFeld>(Welche.Feld);
-        QTest::keyClick(Feld, Qt::Key_Tab);
+        QTest::keyClick(Feld, Taste, Zusatz);
         QVERIFY(!Feld->hasFocus());
         QVERIFY(!Tabelle->hasFocus());
         QVERIFY(QApplication::focusWidget());

@@ -189,6 +189,17 @@ class TestAnsichtP : public QObject {
         QCOMPARE(Tabelle()->ColWidth(2), static_cast<int>(0.16 * Breite));
     }
 
+    void AuchInDerSchmalstenTabelleSindPunkteUndIhrTitelGanzZuLesen() {
+        for (int i = 0; i < 60; ++i)
+            TestbuchLaden(u"ZSchueler 50000 1 P=-199,5 Gast Nummer%1"_s.arg(i));
+        Fuellen();
+        Ansicht->resize(Ansicht->minimumSizeHint());
+        const QFontMetrics Mass(Tabelle()->font());
+        QTRY_COMPARE(Tabelle()->width(), Tabelle()->minimumWidth());
+        for (const QString& Text : {Tabelle()->TextMatrix(0, 1), u"-199,5"_s})
+            QVERIFY2(Mass.horizontalAdvance(Text) <= Tabelle()->ColWidth(1) - 6, qPrintable(Text));
+    }
+
     void ListenZeigenFaecherDesJahresUndProbenDerStufe() {
         TestbuchLaden(u"Fach 50002 b10 Chemie\nFach 50003 7a Alt"_s);
         Datenbank.Faecher[3].Jahr = u"2002/03"_s;

@@ -44,6 +44,17 @@ int YStriche(const Zeichenprotokoll& Protokoll) {
     return static_cast<int>(Protokoll.Zeilen.filter(u" +90 +0 "_s).size());
 }
 
+/// A real surface that also writes down where its texts stand.
+class Textorte : public Malflaeche {
+  public:
+    using Malflaeche::Malflaeche;
+    QList<QRectF> Orte;
+    void Text(double X, double Y, const QString& Text, QRgb Farbe) override {
+        Orte.append({X, Y, TextBreite(Text), TextHoehe(Text)});
+        Malflaeche::Text(X, Y, Text, Farbe);
+    }
+};
+
 } // namespace
 
 class TestDiagramme : public QObject {
@@ -253,6 +264,46 @@ class TestDiagramme : public QObject {
     void BeschriftungDerPunkteachseWirdLichter() {
         QFETCH(QString, Gesamt);
         QTEST(Texte(Punktebild(Gesamt, u""_s, u""_s).Zeilen).mid(1, 4), "Zahlen");
+    }
+
+    void ZahlenDerPunkteachseBeruehrenSichNicht_data() {
+        QTest::addColumn<QSize>("Groesse");
+        QTest::addColumn<QString>("Gesamt");
+        const QSize Klein(235, 167), Mittel(274, 281), Gross(554, 661);
+        for (const auto& [Name, Groesse] :
+             {std::pair("small", Klein), std::pair("middle", Mittel), std::pair("large", Gross)})
+            for (const QString& Gesamt : {u"24"_s, u"30"_s, u"60"_s, u"72"_s, u"99"_s, u"100"_s, u"120"_s})
+                QTest::addRow("%s, %s points", Name, qPrintable(Gesamt)) << Groesse << Gesamt;
+    }
+    void ZahlenDerPunkteachseBeruehrenSichNicht() {
+        QFETCH(QSize, Groesse);
+        QFETCH(QString, Gesamt);
+        QImage Bild(Groesse, QImage::Format_RGB32);
+        QPainter Maler(&Bild);
+        Textorte Flaeche(Maler, Groesse, Malflaeche::Art::Bildschirm);
+        PunkteDiagramm(Flaeche, {}, Massstab(Gesamt, u""_s), {}, 6);
+        const QList<QRectF> Zahlen = Flaeche.Orte.mid(1); // without the title
+        QVERIFY(Zahlen.size() > 2);
+        for (qsizetype i = 1; i < Zahlen.size(); ++i)
+            QVERIFY2(Zahlen[i].right() + 15 < Zahlen[i - 1].left(), qPrintable(QString::number(i)));
+    }
+
+    void EngeZahlenBleibenMittigUndDieAnderenTexteWeit() {
+        // 49 bins of 61.84 twips, each fourth labelled: 247 twips for two digits of 220 and the room between.
+        Zeichenprotokoll Protokoll(3700, 5000);
+        PunkteDiagramm(Protokoll, {}, Massstab(u"24"_s, u""_s), Verteilung(u"24=2"_s), 6);
+        const QStringList Weiten = Protokoll.Nur(u"Weite"_s);
+        QCOMPARE(Weiten.size(), 2);
+        QCOMPARE(Weiten.last(), u"Weite 1"_s);
+        const double Weite = Weiten.first().section(u' ', 1).toDouble();
+        QVERIFY(Weite < 1);
+        const double Balkenbreite = (3700 - 372 - 298) / 49.0;
+        const double Links = 372 - Balkenbreite / 2 - 220 * Weite / 2;
+        const QString Zeile = Protokoll.Zeilen.filter(QRegularExpression(u"^Text .* 24$"_s)).value(0);
+        QVERIFY2(qAbs(Zeile.section(u' ', 1, 1).toDouble() - Links) < 1, qPrintable(Zeile));
+        const qsizetype Zurueck = Protokoll.Zeilen.indexOf(u"Weite 1"_s);
+        QVERIFY(Protokoll.Zeilen.indexOf(Zeile) < Zurueck);
+        QVERIFY(Protokoll.Zeilen.mid(Zurueck).filter(QRegularExpression(u"^Text .* 1$"_s)).size() == 1);
     }
 
     void BeschriftungDerAnzahlachseWirdLichter_data() {

@@ -13,6 +13,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QTabBar>
+
+#include <algorithm>
 
 namespace {
 
@@ -23,6 +26,17 @@ const QString Gewichtsmeldung = QStringLiteral("Der Wert muß zwischen 0 und 3 l
 class TestDlgOptions : public QObject {
     Q_OBJECT
     Optionenwelt O;
+
+    /// The names of what gets the focus by this key, until it is back where it was.
+    QStringList Fokusweg(Qt::Key Taste) const {
+        QStringList Namen;
+        QWidget* const Start = O.Dialog->focusWidget();
+        do {
+            Namen.append(O.Dialog->focusWidget()->objectName());
+            QTest::keyClick(O.Dialog->focusWidget(), Taste);
+        } while (O.Dialog->focusWidget() != Start && Namen.size() < 50);
+        return Namen;
+    }
 
   private Q_SLOTS:
     void init() { O.Herstellen(); }
@@ -155,6 +169,27 @@ class TestDlgOptions : public QObject {
         QVERIFY(O.Welt.Boxen.AllesGefragt());
     }
 
+    void einKlickDerEineSchlechteBoxVerlaesstZaehlt_data() {
+        QTest::addColumn<QString>("Knopf");
+        QTest::addColumn<bool>("Gewaehlt");
+        QTest::newRow("radio button") << QStringLiteral("rbNotenBerechnungsMethode_1") << true;
+        QTest::newRow("check box") << QStringLiteral("cbGrenznotenBerechnen") << false;
+    }
+    /// The message takes the release of the mouse button.
+    void einKlickDerEineSchlechteBoxVerlaesstZaehlt() {
+        QFETCH(const QString, Knopf);
+        QFETCH(const bool, Gewaehlt);
+        O.Oeffnen();
+        O.Seite(1);
+        auto* Geklickt = O.Teil<QAbstractButton>(qPrintable(Knopf));
+        O.Welt.Boxen.ErwarteMeldung(Gewichtsmeldung);
+        O.Tippen("txtGewichtungE", QStringLiteral("0"));
+        QTest::mousePress(Geklickt, Qt::LeftButton, {}, QPoint(8, Geklickt->height() / 2));
+        QVERIFY(O.Welt.Boxen.AllesGefragt());
+        QTRY_VERIFY(!Geklickt->isDown());
+        QCOMPARE(Geklickt->isChecked(), Gewaehlt);
+    }
+
     void einDatumWirdBeimVerlassenGeprueft() {
         O.Oeffnen();
         O.Welt.Boxen.ErwarteMeldung(QStringLiteral("Der Wert ist nicht plausibel!"));
@@ -275,6 +310,36 @@ class TestDlgOptions : public QObject {
             QTest::keyClick(O.Dialog->focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
             QCOMPARE(Seiten->currentIndex(), Erwartet);
         }
+    }
+
+    void tabGehtDurchJedeSeite_data() {
+        QTest::addColumn<int>("Seite");
+        QTest::addColumn<QString>("Reihenfolge");
+        QString Allgemeines = QStringLiteral("obNotensystem_0|rbNotenformat_0|txtHalbjahreswechsel|"
+                                             "txtEndjahreswechsel");
+        for (int i = 0; i < 13; ++i)
+            Allgemeines += QStringLiteral("|txtProbenBezeichnung1_%1|txtProbenBezeichnung2_%1").arg(i);
+        QTest::newRow("general") << 0 << Allgemeines;
+        QTest::newRow("averages") << 1
+                                  << QStringLiteral(
+                                         "rbNotenBerechnungsMethode_0|txtGewichtungE|txtGewichtungM|"
+                                         "cbGrenznotenBerechnen|txtPunkteabstand|"
+                                         "cbGrenznotenBeruecksichtigen");
+        QTest::newRow("table") << 2 << QStringLiteral("ScrollbarB");
+        QTest::newRow("Gauss") << 3 << QStringLiteral("ScrollbarG");
+        QTest::newRow("own") << 4 << QStringLiteral("ScrollbarE");
+    }
+    void tabGehtDurchJedeSeite() {
+        QFETCH(const int, Seite);
+        QFETCH(const QString, Reihenfolge);
+        O.Oeffnen();
+        O.Seite(Seite);
+        QStringList Kreis =
+            QStringLiteral("qt_tabwidget_tabbar|%1|btOK|btAbbruch").arg(Reihenfolge).split(u'|');
+        O.Teil<QTabBar>("qt_tabwidget_tabbar")->setFocus();
+        QCOMPARE(Fokusweg(Qt::Key_Tab), Kreis);
+        std::reverse(Kreis.begin() + 1, Kreis.end());
+        QCOMPARE(Fokusweg(Qt::Key_Backtab), Kreis);
     }
 
     void jedesBedienelementHatEinenNamen() {

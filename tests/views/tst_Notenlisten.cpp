@@ -836,6 +836,7 @@ class AnsichtN2Test : public Notenansicht<AnsichtN2> {
     void newStudentButtonSelectsByTheLengthOfTheOtherClass();
     void newClassButtonSelectsTheText();
     void deleteButtons();
+    void noToTheClassKeepsTheCell();
     void emptyBookDisables();
     void classWithoutStudents();
     void entryRowHint();
@@ -1105,6 +1106,15 @@ void AnsichtN2Test::deleteButtons() {
     Welt.Boxen.ErwarteFrage(QStringLiteral("Wollen Sie die Klasse 3b wirklich löschen?"), Antwort::Ja);
     Druecken("btN2KlasseLoeschen");
     QCOMPARE(Teil<Kombinationsfeld>("cbN2Klasse")->currentText(), QStringLiteral("3c"));
+}
+
+void AnsichtN2Test::noToTheClassKeepsTheCell() {
+    TomZeigen(*this);
+    Klicken(3, 1);
+    Welt.Boxen.ErwarteFrage(QStringLiteral("Wollen Sie die Klasse 3b wirklich löschen?"), Antwort::Nein);
+    Druecken("btN2KlasseLoeschen");
+    QCOMPARE(Tabelle->Row(), 3);
+    QVERIFY(Knopf("btN2FachLoeschen")->isEnabled());
 }
 
 void AnsichtN2Test::emptyBookDisables() {

@@ -736,6 +736,18 @@ class AnsichtSTest : public QObject {
         QCOMPARE(Datenbank.AnzSchueler, qint16{1});
     }
 
+    void EinNeinZurKlasseLaesstZelleUndSortierungStehen() {
+        Zeigen(Buch);
+        Klicken(1, 1, Qt::RightButton);
+        Klicken(3, 4);
+        Welt.Boxen.ErwarteFrage(QStringLiteral("Wollen Sie die Klasse 3b wirklich löschen?"), Antwort::Nein);
+        Druecken("btSKlasseLoeschen");
+        QCOMPARE(Spalte(0), Worte("Bauer Anna|Conz Tom|adam Eva"));
+        QCOMPARE(Zelle(), (QPair{3, 4}));
+        QVERIFY(FeldLiegtAufDerZelle());
+        QVERIFY(Knopf("btSSchuelerLoeschen")->isEnabled());
+    }
+
     void DieUebernahmeAusAltenKlassenIstGesperrt() {
         Zeigen(Buch);
         QVERIFY(Knopf("btSAlteKlassen")->isVisible());
