@@ -5,6 +5,8 @@
 #include "controls/Gitter.h"
 #include "core/Definitionen.h"
 
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QtTest>
 
@@ -176,6 +178,22 @@ class TestZellentasten : public QObject {
             QVERIFY2(Feld->visibleRegion().boundingRect() == Feld->rect(),
                      qPrintable(QStringLiteral("Zelle (%1,%2)").arg(Tabelle->Row()).arg(Tabelle->Col())));
         }
+    }
+
+    /// The list scrolls by itself then, and its name column stays in sight.
+    void ImKleinstenFensterRolltNurDieListeSeitwaerts_data() {
+        QTest::addColumn<int>("Listennummer");
+        for (const int i : {0, 2, 3}) // beside the list of a test there are charts, which need their room
+            QTest::newRow(Listen()[static_cast<std::size_t>(i)].Gitter) << i;
+    }
+    void ImKleinstenFensterRolltNurDieListeSeitwaerts() {
+        QFETCH(int, Listennummer);
+        const Liste Welche = Listen()[static_cast<std::size_t>(Listennummer)];
+        Fenster->resize(640, 400);
+        Oeffnen(Welche);
+        const auto* Rollfeld = qobject_cast<QScrollArea*>(Fenster.Reiter()->currentWidget());
+        QCOMPARE(Rollfeld->horizontalScrollBar()->maximum(), 0);
+        QCOMPARE(Rollfeld->verticalScrollBar()->maximum(), 0);
     }
 
     void DasRadAufDemFeldRolltDieListe() {
