@@ -6,6 +6,7 @@
 #include "core/Einstellungen.h"
 #include "core/FktAllgemein.h"
 #include "core/Meldungen.h"
+#include "core/NeuererStand.h"
 #include "core/Oberflaeche.h"
 #include "core/Orte.h"
 #include "core/Rettung.h"
@@ -75,6 +76,10 @@ QString Befundtext(const QString& Pfad, const Formulierungsbefund& Befund) {
 /// What a file gives, and how it ended. Nothing if it could not even be opened. A failure on the way is
 /// damage behind what was read.
 std::optional<Formulierungsbefund> DateiInSpeicher(const QString& Pfad) {
+    if (const auto Neuerer = NeuererStand(Pfad)) {
+        FormulierungenGeaendert = true; // it is in no file yet
+        return FormulierungenLesen(*Neuerer, Lernbereiche, AnzLernbereiche);
+    }
     Dateifehler Fehler;
     QByteArray Anfang;
     const auto Inhalt = DateiLesen(Pfad, &Fehler, &Anfang);

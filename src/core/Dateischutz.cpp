@@ -2,6 +2,7 @@
 
 #include "core/Dateischreiber.h"
 #include "core/Dateizugriff.h"
+#include "core/NeuererStand.h"
 
 #include <QFile>
 
@@ -61,5 +62,8 @@ std::optional<QByteArray> DateiLesen(const QString& Pfad, Dateifehler* Fehler, Q
 }
 
 std::optional<Dateifehler> DateiSchreiben(const QString& Pfad, const QByteArray& Inhalt) {
-    return Dateischreiber(Pfad, Inhalt).Schreiben();
+    auto Fehler = Dateischreiber(Pfad, Inhalt).Schreiben();
+    if (!Fehler)
+        NeuererStandGespeichert(Pfad);
+    return Fehler;
 }

@@ -7,6 +7,7 @@
 #include "core/Fremdschuelerleser.h"
 #include "core/Ladebericht.h"
 #include "core/Meldungen.h"
+#include "core/NeuererStand.h"
 #include "core/NeuesBuch.h"
 #include "core/Oberflaeche.h"
 #include "core/Originalschutz.h"
@@ -27,6 +28,7 @@ constexpr qint32 GroessteFuenfstelligeID = 99999;
 struct Dateiinhalt {
     std::optional<QByteArray> Bytes;
     bool Ganz = false;
+    bool Ungespeichert = false; ///< from a rescue copy; the file holds something older
 };
 
 Dateiinhalt Holen(const QString& Pfad) {
@@ -37,6 +39,12 @@ Dateiinhalt Holen(const QString& Pfad) {
     if (Fehler.Geoeffnet)
         return {std::move(Anfang), false};
     return {};
+}
+
+Dateiinhalt DokumentHolen(const QString& Pfad) {
+    if (auto Neuerer = NeuererStand(Pfad))
+        return {std::move(Neuerer), true, true};
+    return Holen(Pfad);
 }
 
 /// The first line was refused: the records stay, but no file belongs to them.
@@ -81,7 +89,7 @@ void Uebernehmen(const QString& Pfad, const Leseergebnis& Ergebnis) {
 }
 
 bool EinlesenUndMelden(const QString& Pfad) {
-    const Dateiinhalt Inhalt = Holen(Pfad);
+    const Dateiinhalt Inhalt = DokumentHolen(Pfad);
     if (!Inhalt.Bytes) {
         NichtGefunden(Pfad);
         return false;
@@ -91,7 +99,9 @@ bool EinlesenUndMelden(const QString& Pfad) {
     const bool Abgebrochen = Ergebnis.Ende == Leseergebnis::Ausgang::Fehlgeschlagen;
     LadebefundMerken(Pfad, !Inhalt.Ganz, Ergebnis.Entfallen + (Abgebrochen ? 1 : 0));
     Uebernehmen(Pfad, Ergebnis);
-    return Ergebnis.Ende == Leseergebnis::Ausgang::Gelesen;
+    const bool Gelesen = Ergebnis.Ende == Leseergebnis::Ausgang::Gelesen;
+    DatenGeaendert = Gelesen && Inhalt.Ungespeichert;
+    return Gelesen;
 }
 
 bool GiltAlsMarke(QStringView Zeile) {

@@ -11,7 +11,8 @@
 /// Loads the file into Datenbank, replacing what is there. True on success. A row with a wrong number of
 /// fields only warns. On failure all messages have been shown, and memory holds a new grade book (or, for a
 /// failure in [Parameter], the rows read with default parameters; a refused first line leaves the records as
-/// they are).
+/// they are). DatenGeaendert is false afterwards, unless what was loaded comes from a rescue copy and is in
+/// no file yet (core/NeuererStand.h).
 bool LadeDatenbank(const QString& Pfad);
 
 /// Loads only the students of another grade book into FremdSchueler. True on success; on failure the message

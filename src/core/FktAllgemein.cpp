@@ -48,6 +48,16 @@ QString& TabsErsetzen(QString& Text) {
     return Text.replace(u'\t', u' ');
 }
 
+QString OhneRandblanks(const QString& Text) {
+    qsizetype Von = 0;
+    qsizetype Bis = Text.size();
+    while (Von < Bis && Text.at(Von) == u' ')
+        ++Von;
+    while (Bis > Von && Text.at(Bis - 1) == u' ')
+        --Bis;
+    return Text.mid(Von, Bis - Von);
+}
+
 QString DateiName(const QString& Pfad) {
     return Pfad.mid(qMax(Pfad.lastIndexOf(u'\\'), Pfad.lastIndexOf(u'/')) + 1);
 }

@@ -14,6 +14,9 @@ qint16 GanzzahlAusText(const QString& Text);
 /// Every tab becomes a blank, in place: a tab separates fields in the files. Returns the text.
 QString& TabsErsetzen(QString& Text);
 
+/// The text without the blanks before and behind it. Other spaces, such as no-break spaces, belong to it.
+QString OhneRandblanks(const QString& Text);
+
 /// What stands behind the last "\" or "/" of a path; the whole text if there is none.
 QString DateiName(const QString& Pfad);
 

@@ -82,7 +82,7 @@ float NoteAlsZahl(const QString& Note) {
 }
 
 QString NameDrehen(const QString& Name) {
-    const QString Ganz = Name.trimmed();
+    const QString Ganz = OhneRandblanks(Name);
     const qsizetype Blank = NamenUmgekehrt ? Ganz.indexOf(u' ') : Ganz.lastIndexOf(u' ');
     if (Blank < 0)
         return Ganz;

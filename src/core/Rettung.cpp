@@ -5,6 +5,7 @@
 #include "core/FktAllgemein.h"
 #include "core/Laufzeitfehler.h"
 #include "core/Meldungen.h"
+#include "core/NeuererStand.h"
 #include "core/Rettungsorte.h"
 
 #include <QFile>
@@ -14,7 +15,7 @@
 
 namespace {
 
-enum class Rettungswahl { Uebernehmen, SpeichernUnter, Behalten, Spaeter };
+enum class Rettungswahl { Oeffnen, Uebernehmen, SpeichernUnter, Behalten, Spaeter };
 
 /// The question of one case: the captions, what each does, and which is preselected.
 struct Angebot {
@@ -31,14 +32,16 @@ QString Zeitpunkt(const QDateTime& Zeit) {
 
 const QString Spaeter = QStringLiteral("Später entscheiden");
 
-Angebot AngebotVorher(const QString& Datei, const QString& Dateizeit, const QString& Kopiezeit) {
+Angebot AngebotVorher(const QString& Datei, const QString& Dateizeit, const QString& Kopiezeit,
+                      bool Dokument) {
     return {QStringLiteral(
                 "Das Speichern der Datei\n\"%1\"\nwurde unterbrochen (%3). Die Datei hat noch den alten "
                 "Stand vom %2.\nDer neuere Stand ist in einer Rettungskopie erhalten.\n\n"
                 "Soll der neuere Stand übernommen werden?")
-                .arg(Datei, Dateizeit, Kopiezeit),
+                    .arg(Datei, Dateizeit, Kopiezeit) +
+                (Dokument ? QStringLiteral(" In der Datei steht er erst, wenn Sie speichern.") : QString()),
             {QStringLiteral("Neueren Stand übernehmen"), QStringLiteral("Alten Stand behalten"), Spaeter},
-            {Rettungswahl::Uebernehmen, Rettungswahl::Behalten, Rettungswahl::Spaeter},
+            {Rettungswahl::Oeffnen, Rettungswahl::Behalten, Rettungswahl::Spaeter},
             2};
 }
 
@@ -77,13 +80,13 @@ Angebot AngebotFehlt(const QString& Datei, const QString& Kopiezeit) {
         2};
 }
 
-Angebot AngebotFuer(const Rettungsfund& Fund) {
+Angebot AngebotFuer(const Rettungsfund& Fund, bool Dokument) {
     const QString Datei = QFile::decodeName(Fund.Kopf.Ziel);
     const QString Dateizeit = Zeitpunkt(Fund.Zielzeit);
     const QString Kopiezeit = Zeitpunkt(Fund.Kopf.Zeit);
     switch (Fund.Lage) {
     case Rettungslage::Vorher:
-        return AngebotVorher(Datei, Dateizeit, Kopiezeit);
+        return AngebotVorher(Datei, Dateizeit, Kopiezeit, Dokument);
     case Rettungslage::Abgebrochen:
         return AngebotAbgebrochen(Datei, Kopiezeit);
     case Rettungslage::Fehlt:
@@ -115,11 +118,34 @@ std::optional<Dateifehler> Ergreifen(const Rettungsfund& Fund, Griff* Einer) {
                        Pfad};
 }
 
+std::optional<Dateifehler> Schreiben(Griff Einer, const QByteArray& Ziel) {
+    return Dateischreiber(Ziel, Einer.Inhalt, std::move(Einer.Kopie)).Schreiben();
+}
+
 std::optional<Dateifehler> HerausSchreiben(const Rettungsfund& Fund, const QByteArray& Ziel) {
     Griff Einer;
     if (auto Fehler = Ergreifen(Fund, &Einer))
         return Fehler;
-    return Dateischreiber(Ziel, Einer.Inhalt, std::move(Einer.Kopie)).Schreiben();
+    return Schreiben(std::move(Einer), Ziel);
+}
+
+/// Takes the newer content into the program. A document is opened with it, and saved when the user saves.
+std::optional<Dateifehler> NeuerenStandOeffnen(const Rettungsfund& Fund, bool BeimStart) {
+    Griff Einer;
+    if (auto Fehler = Ergreifen(Fund, &Einer))
+        return Fehler;
+    if (!IstDokument(Einer.Inhalt))
+        return Schreiben(std::move(Einer), Fund.Kopf.Ziel);
+    if (BeimStart)
+        NeuerenStandBeimStartVormerken(Fund, Einer.Inhalt);
+    else
+        NeuerenStandVormerken(Fund, Einer.Inhalt);
+    return {};
+}
+
+void FehlerZeigen(const std::optional<Dateifehler>& Fehler) {
+    if (Fehler)
+        MeldungZeigen(Fehler->Text, {}, Symbol::Fehler);
 }
 
 void Speichernunter(const Rettungsfund& Fund) {
@@ -133,8 +159,7 @@ void Speichernunter(const Rettungsfund& Fund) {
         QStringLiteral("Soll die bereits existierende Datei %1 ersetzt werden?").arg(Wahl->Pfad);
     if (DateiExistiert(Wahl->Pfad) && !FrageJaNein(Frage))
         return;
-    if (const auto Fehler = RettungSpeichernUnter(Fund, Wahl->Pfad))
-        MeldungZeigen(Fehler->Text, {}, Symbol::Fehler);
+    FehlerZeigen(RettungSpeichernUnter(Fund, Wahl->Pfad));
 }
 
 void Behalten(const Rettungsfund& Fund) {
@@ -147,12 +172,12 @@ void Behalten(const Rettungsfund& Fund) {
                       Fluechtigkeitshinweis(QFile::encodeName(Wohin)));
 }
 
-void Ausfuehren(Rettungswahl Wahl, const Rettungsfund& Fund) {
+void Ausfuehren(Rettungswahl Wahl, const Rettungsfund& Fund, bool BeimStart) {
     switch (Wahl) {
+    case Rettungswahl::Oeffnen:
+        return FehlerZeigen(NeuerenStandOeffnen(Fund, BeimStart));
     case Rettungswahl::Uebernehmen:
-        if (const auto Fehler = RettungUebernehmen(Fund))
-            MeldungZeigen(Fehler->Text, {}, Symbol::Fehler);
-        return;
+        return FehlerZeigen(RettungUebernehmen(Fund));
     case Rettungswahl::SpeichernUnter:
         return Speichernunter(Fund);
     case Rettungswahl::Behalten:
@@ -176,13 +201,12 @@ void DefekteBeiseiteLegen(Rettungskopie* Kopie) {
     }
 }
 
-/// Brings copies to their end that need no answer; the others are given back.
-std::optional<Rettungsfund> OhneFrageErledigen(const QByteArray& Pfad) {
+/// Brings copies to their end that need no answer; the others are given back, with their content.
+std::optional<Rettungsfund> OhneFrageErledigen(const QByteArray& Pfad, QByteArray* Inhalt) {
     Rettungskopie Kopie;
-    QByteArray Inhalt;
     if (RettungOeffnen(Pfad, &Kopie) != 0)
         return {};
-    auto Fund = RettungEinordnen(Kopie, &Inhalt);
+    auto Fund = RettungEinordnen(Kopie, Inhalt);
     if (!Fund)
         return {};
     if (Fund->Lage == Rettungslage::Gleich)
@@ -191,14 +215,22 @@ std::optional<Rettungsfund> OhneFrageErledigen(const QByteArray& Pfad) {
         DefekteBeiseiteLegen(&Kopie);
     else {
         // Whoever decides later, decides perhaps after the computer was switched off.
-        if (IstFluechtig(Pfad) && RettungHeimholen(Fund->Kopf, Inhalt, &Kopie) == 0)
+        if (IstFluechtig(Pfad) && RettungHeimholen(Fund->Kopf, *Inhalt, &Kopie) == 0)
             Fund->Pfad = Kopie.Pfad;
         return Fund;
     }
     return {};
 }
 
-/// Ziel empty: the copies of all files.
+void Fragen(const Rettungsfund& Fund, bool Dokument, bool BeimStart) {
+    const Angebot Eines = AngebotFuer(Fund, Dokument);
+    const int Knopf =
+        Meldungen().Waehlen({Eines.Text + Fluechtigkeitshinweis(Fund.Pfad),
+                             QStringLiteral("Rettungskopie gefunden"), Eines.Knoepfe, Eines.Vorgabe});
+    Ausfuehren(Eines.Wahlen.value(Knopf, Rettungswahl::Spaeter), Fund, BeimStart);
+}
+
+/// Ziel empty: the copies of all files, at start.
 void Anbieten(const QByteArray& Ziel) {
     QList<QByteArray> Pfade;
     QByteArray Unlesbar;
@@ -208,14 +240,12 @@ void Anbieten(const QByteArray& Ziel) {
                       {}, Symbol::Warnung);
     for (const QByteArray& Pfad : Pfade) {
         // Looked at one by one: the answer for one copy can settle the next.
-        const auto Fund = OhneFrageErledigen(Pfad);
-        if (!Fund || (!Ziel.isEmpty() && Fund->Kopf.Ziel != Ziel))
+        QByteArray Inhalt;
+        const auto Fund = OhneFrageErledigen(Pfad, &Inhalt);
+        if (!Fund || (!Ziel.isEmpty() && Fund->Kopf.Ziel != Ziel) ||
+            NeuererStandVorgemerkt(Fund->Kopf.Ziel)) // an older copy can wait until it is saved
             continue;
-        const Angebot Eines = AngebotFuer(*Fund);
-        const int Knopf =
-            Meldungen().Waehlen({Eines.Text + Fluechtigkeitshinweis(Fund->Pfad),
-                                 QStringLiteral("Rettungskopie gefunden"), Eines.Knoepfe, Eines.Vorgabe});
-        Ausfuehren(Eines.Wahlen.value(Knopf, Rettungswahl::Spaeter), *Fund);
+        Fragen(*Fund, IstDokument(Inhalt), Ziel.isEmpty());
     }
 }
 
@@ -228,7 +258,10 @@ void RettungenAnbieten() {
 void RettungAnbietenFuer(const QString& Pfad) {
     const QByteArray Name = QFile::encodeName(QFileInfo(Pfad).absoluteFilePath());
     QByteArray Ziel;
-    Anbieten(EchterPfad(Name, &Ziel) == 0 ? Ziel : Name);
+    if (EchterPfad(Name, &Ziel) != 0)
+        Ziel = Name;
+    NeuerenStandVergessen(Ziel); // the answer is given anew
+    Anbieten(Ziel);
 }
 
 std::optional<Dateifehler> RettungUebernehmen(const Rettungsfund& Fund) {

@@ -1,6 +1,7 @@
 // View P: the floating box over the list, and the commits of all boxes.
 
 #include "controls/EingabeFeld.h"
+#include "core/FktAllgemein.h"
 #include "core/FktSpeziell.h"
 #include "grading/AnsichtP.h"
 #include "grading/Eingabeplaetze.h"
@@ -172,7 +173,7 @@ void AnsichtP::EingabeUebernehmen() {
 }
 
 void AnsichtP::NamenUebernehmen(int Zeile) {
-    const QString Name = txtEingabe->text().trimmed();
+    const QString Name = OhneRandblanks(txtEingabe->text());
     if (Form->tblPPunkte->TextMatrix(Zeile, Probenspalte::Name) != Name) {
         Form->tblPPunkte->setTextMatrix(Zeile, Probenspalte::Name, Name);
         GezeigterStand.reset();

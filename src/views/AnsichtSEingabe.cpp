@@ -7,6 +7,7 @@
 #include "controls/Kombinationsfeld.h"
 #include "core/Definitionen.h"
 #include "core/Fehlerfang.h"
+#include "core/FktAllgemein.h"
 #include "records/Aendern.h"
 #include "records/Anlegen.h"
 #include "records/Satzdialoge.h"
@@ -105,7 +106,7 @@ QString AnsichtS::Zellenhinweis() const {
 
 bool AnsichtS::cSchuelerliste_Validate() {
     EingabeZaehler[Zaehlerplatz] = 0;
-    const QString Text = txtSEingabe->text().trimmed();
+    const QString Text = OhneRandblanks(txtSEingabe->text());
     return Ausfuehren([this, &Text] {
         if (InEingabezeile()) {
             if (!Text.isEmpty())

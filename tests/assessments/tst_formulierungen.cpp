@@ -6,10 +6,13 @@
 #include "core/Definitionen.h"
 #include "core/Einstellungen.h"
 #include "core/Oberflaeche.h"
+#include "core/Orte.h"
+#include "core/Rettung.h"
 #include "core/Systemaufrufe.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QtTest>
 
 namespace {
@@ -298,6 +301,32 @@ class FormulierungenTest : public QObject {
         Welt.Boxen.ErwarteMeldung(QStringLiteral("Die Beurteilungsformulierungen wurden aus"));
         FormulierungenBeimStartLaden();
         QCOMPARE(Namen(), Namensliste("Kopie"));
+    }
+
+    void AtStartANewerContentFromARescueCopyIsShownAndNotSavedYet() {
+        const QString Pfad = QFileInfo(Datei("a.txt", "[A]\r\n")).canonicalFilePath();
+        const QByteArray Alt = Testwelt::DateiInhalt(Pfad);
+        const QByteArray Neu = Kopfzeile + "[B]\r\n";
+        const Rettungskopf Rettung{QFile::encodeName(Pfad),
+                                   0,
+                                   0,
+                                   MarkeVon(Neu),
+                                   false,
+                                   MarkeVon(Alt),
+                                   QDateTime(QDate(2003, 10, 12), QTime(10, 15)),
+                                   "r",
+                                   1};
+        Zustandsverzeichnis();
+        Welt.DateiAnlegen(QStringLiteral("zustand/r.1.rescue"), RettungskopfBytes(Rettung) + Neu);
+        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), 0);
+        RettungenAnbieten();
+        FormulierungenBeimStartLaden();
+        QCOMPARE(Setting(), Pfad);
+        QCOMPARE(Namen(), Namensliste("B"));
+        QVERIFY(FormulierungenGeaendert);
+        QCOMPARE(Testwelt::DateiInhalt(Pfad), Alt);
+        QVERIFY(FormulierungenSpeichern());
+        QCOMPARE(Testwelt::DateiInhalt(Pfad), Neu);
     }
 
     // Prompt

@@ -3,6 +3,7 @@
 #include "core/Definitionen.h"
 #include "core/Eingabezaehler.h"
 #include "core/Einstellungen.h"
+#include "core/NeuererStand.h"
 #include "core/Oberflaeche.h"
 #include "core/Orte.h"
 #include "core/Rettungsorte.h"
@@ -99,6 +100,7 @@ void Testwelt::Herstellen() {
     ZustandsverzeichnisSetzen(Temp->filePath(QStringLiteral("zustand")));
     qunsetenv("XDG_RUNTIME_DIR"); // no second place for rescue copies, unless a test makes one
     AusweichhinweisVergessen();
+    AlleNeuerenStaendeVergessen();
     UhrStellen(QDateTime(QDate(2003, 10, 12), QTime(10, 30)));
     SystemSpracheSetzen(QLocale(QLocale::German, QLocale::Germany));
     OberflaecheSetzen(nullptr);

@@ -80,6 +80,22 @@ class TestFktAllgemein : public QObject {
         QCOMPARE(&Ergebnis, &Text);
     }
 
+    void nurBlanksFallenVomRandAb_data() {
+        QTest::addColumn<QString>("Text");
+        QTest::addColumn<QString>("Rest");
+        QTest::newRow("leer") << QString() << QString();
+        QTest::newRow("ohne") << QStringLiteral("a b") << QStringLiteral("a b");
+        QTest::newRow("beide Seiten") << QStringLiteral("  a  b ") << QStringLiteral("a  b");
+        QTest::newRow("nur Blanks") << QStringLiteral("   ") << QString();
+        QTest::newRow("geschuetzte Leerzeichen")
+            << QStringLiteral(" \u00A0a\u00A0 ") << QStringLiteral("\u00A0a\u00A0");
+    }
+    void nurBlanksFallenVomRandAb() {
+        QFETCH(const QString, Text);
+        QFETCH(const QString, Rest);
+        QCOMPARE(OhneRandblanks(Text), Rest);
+    }
+
     void dateinameStehtHinterDemLetztenTrenner_data() {
         QTest::addColumn<QString>("Pfad");
         QTest::addColumn<QString>("Name");

@@ -132,6 +132,8 @@ class TestFktSpeziell : public QObject {
                                       << "Anna von Bauer";
         QTest::newRow("ein Wort") << "Bauer"
                                   << "Bauer";
+        QTest::newRow("geschuetztes Leerzeichen am Rand")
+            << QStringLiteral("Bauer Anna\u00A0") << QStringLiteral("Anna\u00A0 Bauer");
         QTest::newRow("leer") << ""
                               << "";
     }

@@ -589,6 +589,16 @@ class TestAnsichtP : public QObject {
         QCOMPARE(Zeile(SchuelerB).P[1], u"3 3"_s);
     }
 
+    void EinGeschuetztesLeerzeichenAmNamenBleibtBeimDurchgehen() {
+        const QString Name = u"Cramer Bodo\u00A0"_s;
+        Datenbank.Schueler[1].Name = Name;
+        Ansicht->SichtPFuellen();
+        Anklicken(ZeileVon(Name), 0);
+        Taste(Qt::Key_Return);
+        QCOMPARE(Datenbank.Schueler[1].Name, Name);
+        QCOMPARE(DatenGeaendert, false);
+    }
+
     void NoteVonHandMerktSichDiePunkteNegativ() {
         Anklicken(3, 2);
         Tippen(u"2+"_s);

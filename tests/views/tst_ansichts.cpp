@@ -365,6 +365,18 @@ class AnsichtSTest : public QObject {
         QVERIFY(DatenGeaendert);
     }
 
+    void EinNameMitGeschuetztemLeerzeichenBleibtBeimDurchgehen() {
+        const QString Name = QStringLiteral("\u00A0adam Eva\u00A0");
+        Zeigen(Buch);
+        Datenbank.Schueler[SchuelerIndex(10001)].Name = Name;
+        Ansicht->Fuellen();
+        Tabelle->Enter(2, 0);
+        QCOMPARE(Feld->text(), Name);
+        Taste(Qt::Key_Down);
+        QCOMPARE(Datenbank.Schueler[SchuelerIndex(10001)].Name, Name);
+        QVERIFY(!DatenGeaendert);
+    }
+
     void EinLeeresFeldWirdGespeichert() {
         Zeigen(Buch);
         Datenbank.Schueler[1].Feld[2] = QStringLiteral("Ulm");
