@@ -55,7 +55,10 @@ void NeuerenStandVormerken(const Rettungsfund& Fund, const QByteArray& Inhalt) {
 
 void NeuerenStandBeimStartVormerken(const Rettungsfund& Fund, const QByteArray& Inhalt) {
     NeuerenStandVormerken(Fund, Inhalt);
-    const QString Schluessel = QString::fromLatin1(ArtVon(Inhalt)->Einstellung);
+    const Dokumentart* const Art = ArtVon(Inhalt);
+    if (!Art)
+        return;
+    const QString Schluessel = QString::fromLatin1(Art->Einstellung);
     // A link that leads there keeps its name.
     if (ZielVon(EinstellungLesen(Schluessel, {})) != Fund.Kopf.Ziel)
         EinstellungSchreiben(Schluessel, QFile::decodeName(Fund.Kopf.Ziel));
