@@ -594,6 +594,37 @@ class FormulierungsansichtTest : public QObject {
         QVERIFY(!FormulierungenGeaendert); // so a rename alone is lost without a prompt
     }
 
+    void ALabelIsClosedOnceWhicheverWayItIsLeft_data() {
+        QTest::addColumn<QString>("Weg");
+        QTest::addColumn<int>("Knoten");
+        for (const int Nummer : {1, 3})
+            for (const char* Weg : {"Return", "node", "Return, node", "box", "phrase"})
+                QTest::addRow("%s, node %d", Weg, Nummer) << QString::fromLatin1(Weg) << Nummer;
+    }
+    void ALabelIsClosedOnceWhicheverWayItIsLeft() {
+        QFETCH(QString, Weg);
+        QFETCH(int, Knoten);
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("does not belong")));
+        F->KlickAufKnoten(Knoten);
+        QTest::keyClick(&F->Baum(), Qt::Key_F2);
+        auto* Feld = F->Baum().viewport()->findChild<QLineEdit*>();
+        QVERIFY(Feld);
+        Feld->selectAll();
+        QTest::keyClicks(Feld, QStringLiteral("Sport"));
+        if (Weg.startsWith(u"Return"))
+            QTest::keyClick(Feld, Qt::Key_Return);
+        QCoreApplication::processEvents(); // the label is taken after the key
+        if (Weg.endsWith(u"node"))
+            F->KlickAufKnoten(0);
+        if (Weg == u"box")
+            F->Vorname().setFocus();
+        if (Weg == u"phrase")
+            F->Floskeln().setFocus();
+        QCoreApplication::processEvents();
+        QVERIFY(F->Knoten().join(u' ').contains(QStringLiteral("Sport")));
+        QTRY_VERIFY(!F->Baum().viewport()->findChild<QLineEdit*>());
+    }
+
     void ARenameIsLostWithoutAPrompt() {
         F->Baum().Beschriftet(1, QStringLiteral("Biologie"));
         QVERIFY(FormulierungenAbfrage());
