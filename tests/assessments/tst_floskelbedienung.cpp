@@ -26,6 +26,16 @@ class TestFloskelbedienung : public QObject {
         F->KlickAufFloskel(Zeile);
     }
 
+    /// Leaving the editor will be answered by a message.
+    void UnerlaubtesTippen() {
+        Lernbereiche[0].Formulierung[0] = QStringLiteral("[ alt");
+        F->Ansicht->FormulierungenFuellen();
+        EditorOeffnen(0);
+        F->Editor().selectAll();
+        QTest::keyClicks(&F->Editor(), QStringLiteral("neu]"));
+        Welt.Boxen.ErwarteMeldung(QStringLiteral("Diese Formulierung darf nicht mit \"]\" enden"));
+    }
+
   private Q_SLOTS:
     void init() {
         Welt.Herstellen();
@@ -38,12 +48,7 @@ class TestFloskelbedienung : public QObject {
     }
 
     void EinAbgelehnterTextTrifftKeineAndereFormulierung() {
-        Lernbereiche[0].Formulierung[0] = QStringLiteral("[ alt");
-        F->Ansicht->FormulierungenFuellen();
-        EditorOeffnen(0);
-        F->Editor().selectAll();
-        QTest::keyClicks(&F->Editor(), QStringLiteral("neu]"));
-        Welt.Boxen.ErwarteMeldung(QStringLiteral("Diese Formulierung darf nicht mit \"]\" enden"));
+        UnerlaubtesTippen();
         F->KlickAufFloskel(1);
         QTRY_VERIFY(F->Editor().hasFocus());
         QCOMPARE(F->Floskeln().Row(), 0);
@@ -55,12 +60,7 @@ class TestFloskelbedienung : public QObject {
     }
 
     void EinAbgelehnterTextFolgtNichtInEinenAnderenBereich() {
-        Lernbereiche[0].Formulierung[0] = QStringLiteral("[ alt");
-        F->Ansicht->FormulierungenFuellen();
-        EditorOeffnen(0);
-        F->Editor().selectAll();
-        QTest::keyClicks(&F->Editor(), QStringLiteral("neu]"));
-        Welt.Boxen.ErwarteMeldung(QStringLiteral("Diese Formulierung darf nicht mit \"]\" enden"));
+        UnerlaubtesTippen();
         F->KlickAufKnoten(1);
         QCoreApplication::processEvents();
         QVERIFY(F->Editor().isHidden());

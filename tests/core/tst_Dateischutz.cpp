@@ -1,6 +1,8 @@
 #include "common/Testprogramm.h"
 #include "common/Testwelt.h"
 
+#include "Rettungsprobe.h"
+
 #include "core/Dateischutz.h"
 #include "core/Orte.h"
 #include "core/Rettungslage.h"
@@ -14,10 +16,6 @@
 #include <unistd.h>
 
 namespace {
-
-QStringList Rettungsdateien() {
-    return QDir(Zustandsverzeichnis()).entryList(QDir::Files, QDir::Name);
-}
 
 QString Fehlertext(const std::optional<Dateifehler>& Fehler) {
     return Fehler ? Fehler->Text : QString();
@@ -118,11 +116,11 @@ void TestDateischutz::EinVerweisInsLeereBekommtSeinZiel() {
 
 void TestDateischutz::EinHarterVerweisZeigtDenNeuenInhalt() {
     const QString Pfad = Welt.DateiAnlegen(QStringLiteral("buch.txt"), "alt");
-    const QString Zweiter = Welt.Pfad(QStringLiteral("zweiter.txt"));
-    QCOMPARE(::link(QFile::encodeName(Pfad).constData(), QFile::encodeName(Zweiter).constData()), 0);
+    const QString ZweiterName = Welt.Pfad(QStringLiteral("zweiter.txt"));
+    QCOMPARE(::link(QFile::encodeName(Pfad).constData(), QFile::encodeName(ZweiterName).constData()), 0);
     const quint64 Vorher = Inode(Pfad);
     QCOMPARE(Fehlertext(DateiSchreiben(Pfad, "neu")), QString());
-    QCOMPARE(Testwelt::DateiInhalt(Zweiter), QByteArray("neu"));
+    QCOMPARE(Testwelt::DateiInhalt(ZweiterName), QByteArray("neu"));
     QCOMPARE(Inode(Pfad), Vorher);
 }
 

@@ -1,6 +1,8 @@
 #include "common/Testprogramm.h"
 #include "common/Testwelt.h"
 
+#include "Rettungsprobe.h"
+
 #include "core/Dateischutz.h"
 #include "core/Orte.h"
 #include "core/Rettung.h"
@@ -11,21 +13,6 @@
 #include <QtTest>
 
 #include <sys/file.h>
-
-namespace {
-
-const QByteArray Alt = QByteArrayLiteral("alter Stand");
-const QByteArray Neu = QByteArrayLiteral("neuer Stand, laenger als der alte");
-
-constexpr int Erster = 0;
-constexpr int Zweiter = 1;
-constexpr int Spaeter = 2;
-
-QStringList Rettungsdateien() {
-    return QDir(Zustandsverzeichnis()).entryList(QDir::Files, QDir::Name);
-}
-
-} // namespace
 
 class TestRettung : public QObject {
     Q_OBJECT
@@ -62,7 +49,7 @@ class TestRettung : public QObject {
   private:
     QString Ziel() const { return Welt.Pfad(QStringLiteral("buch.txt")); }
     QByteArray Kopiebytes(const QByteArray& Inhalt, const QString& Name = QStringLiteral("buch.txt")) const;
-    void Lege(const QByteArray& Zielinhalt, const QByteArray& Kopieinhalt = Neu);
+    void Lege(const QByteArray& Zielinhalt, const QByteArray& Kopieinhalt = NeuerStand);
 
     Testwelt Welt;
 };
@@ -76,7 +63,7 @@ QByteArray TestRettung::Kopiebytes(const QByteArray& Inhalt, const QString& Name
     Rettungskopf Kopf;
     Kopf.Ziel = QFile::encodeName(QFileInfo(Welt.Ordner()).canonicalFilePath() + u'/' + Name);
     Kopf.Inhalt = MarkeVon(Inhalt);
-    Kopf.Vorher = MarkeVon(Alt);
+    Kopf.Vorher = MarkeVon(AlterStand);
     Kopf.Zeit = QDateTime(QDate(2003, 10, 12), QTime(10, 15));
     return RettungskopfBytes(Kopf) + Inhalt;
 }
@@ -90,15 +77,17 @@ void TestRettung::Lege(const QByteArray& Zielinhalt, const QByteArray& Kopieinha
 void TestRettung::DieLageFolgtDerTabelle_data() {
     QTest::addColumn<QByteArray>("Zielinhalt");
     QTest::addColumn<Rettungslage>("Lage");
-    QTest::newRow("gleich") << Neu << Rettungslage::Gleich;
-    QTest::newRow("wie vorher") << Alt << Rettungslage::Vorher;
+    QTest::newRow("gleich") << NeuerStand << Rettungslage::Gleich;
+    QTest::newRow("wie vorher") << AlterStand << Rettungslage::Vorher;
     QTest::newRow("leer") << QByteArray() << Rettungslage::Abgebrochen;
-    QTest::newRow("ein Anfang") << Neu.left(7) << Rettungslage::Abgebrochen;
-    QTest::newRow("fast ganz") << Neu.chopped(1) << Rettungslage::Abgebrochen;
-    QTest::newRow("ein Anfang und Nullen") << Neu.left(7) + QByteArray(9, '\0') << Rettungslage::Abgebrochen;
-    QTest::newRow("nur Nullen") << QByteArray(Neu.size(), '\0') << Rettungslage::Abgebrochen;
-    QTest::newRow("mehr Nullen als Inhalt") << QByteArray(Neu.size() + 1, '\0') << Rettungslage::Anders;
-    QTest::newRow("ganz und noch mehr") << Neu + "x" << Rettungslage::Anders;
+    QTest::newRow("ein Anfang") << NeuerStand.left(7) << Rettungslage::Abgebrochen;
+    QTest::newRow("fast ganz") << NeuerStand.chopped(1) << Rettungslage::Abgebrochen;
+    QTest::newRow("ein Anfang und Nullen")
+        << NeuerStand.left(7) + QByteArray(9, '\0') << Rettungslage::Abgebrochen;
+    QTest::newRow("nur Nullen") << QByteArray(NeuerStand.size(), '\0') << Rettungslage::Abgebrochen;
+    QTest::newRow("mehr Nullen als Inhalt")
+        << QByteArray(NeuerStand.size() + 1, '\0') << Rettungslage::Anders;
+    QTest::newRow("ganz und noch mehr") << NeuerStand + "x" << Rettungslage::Anders;
     QTest::newRow("Nullen und dann etwas") << QByteArray(3, '\0') + "x" << Rettungslage::Anders;
     QTest::newRow("anderes") << QByteArray("von anderswo") << Rettungslage::Anders;
 }
@@ -114,35 +103,36 @@ void TestRettung::DieLageFolgtDerTabelle() {
 }
 
 void TestRettung::GleicheKopienGehenOhneFrage() {
-    Lege(Neu);
+    Lege(NeuerStand);
     RettungenAnbieten();
     QCOMPARE(Rettungsdateien(), QStringList());
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
 }
 
 void TestRettung::DerNeuereStandWirdAufWunschUebernommen() {
-    Lege(Alt);
+    Lege(AlterStand);
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Erster);
     RettungenAnbieten();
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Rettungsdateien(), QStringList());
 }
 
 void TestRettung::DerAlteStandBleibtUndDieKopieWirdNichtMehrAngeboten() {
-    Lege(Alt);
+    Lege(AlterStand);
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Zweiter);
     Welt.Boxen.ErwarteMeldung(QStringLiteral("Die Rettungskopie bleibt erhalten als\n"));
     RettungenAnbieten();
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Alt);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), AlterStand);
     QCOMPARE(Rettungsdateien(), QStringList(QStringLiteral("r.1.beiseite")));
-    QCOMPARE(Testwelt::DateiInhalt(Welt.Pfad(QStringLiteral("zustand/r.1.beiseite"))), Kopiebytes(Neu));
+    QCOMPARE(Testwelt::DateiInhalt(Welt.Pfad(QStringLiteral("zustand/r.1.beiseite"))),
+             Kopiebytes(NeuerStand));
     RettungenAnbieten();
 }
 
 void TestRettung::SpaeterEntscheidenLaesstAllesWieEsIst_data() {
     QTest::addColumn<QByteArray>("Zielinhalt");
-    QTest::newRow("wie vorher") << Alt;
-    QTest::newRow("abgebrochen") << Neu.left(5);
+    QTest::newRow("wie vorher") << AlterStand;
+    QTest::newRow("abgebrochen") << NeuerStand.left(5);
     QTest::newRow("anders") << QByteArray("anders");
 }
 
@@ -158,10 +148,10 @@ void TestRettung::SpaeterEntscheidenLaesstAllesWieEsIst() {
 }
 
 void TestRettung::EineAbgebrocheneDateiWirdWiederhergestellt() {
-    Lege(Neu.left(12));
+    Lege(NeuerStand.left(12));
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Die Datei\n"), Erster);
     RettungenAnbieten();
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Rettungsdateien(), QStringList());
 }
 
@@ -183,11 +173,11 @@ void TestRettung::DieAngebotenenKnoepfeUndIhreVorgabe_data() {
     QTest::addColumn<QStringList>("Knoepfe");
     QTest::addColumn<int>("Vorgabe");
     const QString Zuletzt = QStringLiteral("Später entscheiden");
-    QTest::newRow("wie vorher") << Alt
+    QTest::newRow("wie vorher") << AlterStand
                                 << QStringList{QStringLiteral("Neueren Stand übernehmen"),
                                                QStringLiteral("Alten Stand behalten"), Zuletzt}
                                 << Spaeter;
-    QTest::newRow("abgebrochen") << Neu.left(3)
+    QTest::newRow("abgebrochen") << NeuerStand.left(3)
                                  << QStringList{QStringLiteral("Wiederherstellen"),
                                                 QStringLiteral("Datei so lassen"), Zuletzt}
                                  << Erster;
@@ -218,19 +208,19 @@ void TestRettung::BeiAnderemInhaltWirdDieKopieNurAndernortsGespeichert() {
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Zur Datei\n"), Erster);
     Welt.Boxen.ErwarteSpeichern(QStringLiteral("Speichern unter..."), Dateiwahl{Neuer, 1});
     RettungenAnbieten();
-    QCOMPARE(Testwelt::DateiInhalt(Neuer), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Neuer), NeuerStand);
     QCOMPARE(Testwelt::DateiInhalt(Ziel()), QByteArray("von anderswo"));
     QCOMPARE(Rettungsdateien(), QStringList());
 }
 
 void TestRettung::FehltDieDateiWirdUnterAnderemNamenGespeichert() {
-    Lege(Alt);
+    Lege(AlterStand);
     QFile::remove(Ziel());
     const QString Neuer = Welt.Pfad(QStringLiteral("gerettet.txt"));
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Die Datei\n"), Erster);
     Welt.Boxen.ErwarteSpeichern(QStringLiteral("Speichern unter..."), Dateiwahl{Neuer, 1});
     RettungenAnbieten();
-    QCOMPARE(Testwelt::DateiInhalt(Neuer), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Neuer), NeuerStand);
     QVERIFY(!QFile::exists(Ziel()));
     QCOMPARE(Rettungsdateien(), QStringList());
 }
@@ -268,11 +258,11 @@ void TestRettung::EineDefekteKopieWirdBeiseitegelegtUndVermerkt() {
 }
 
 void TestRettung::EineFertigeAberNichtUmbenannteKopieWirdAngeboten() {
-    Welt.DateiAnlegen(QStringLiteral("buch.txt"), Alt);
-    Welt.DateiAnlegen(QStringLiteral("zustand/r.1.tmp"), Kopiebytes(Neu));
+    Welt.DateiAnlegen(QStringLiteral("buch.txt"), AlterStand);
+    Welt.DateiAnlegen(QStringLiteral("zustand/r.1.tmp"), Kopiebytes(NeuerStand));
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Erster);
     RettungenAnbieten();
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Rettungsdateien(), QStringList());
 }
 
@@ -288,28 +278,29 @@ void TestRettung::VonMehrerenKopienKommtDieNeuesteZuerst() {
 }
 
 void TestRettung::DieAntwortAufDieErsteErledigtDieGleicheZweite() {
-    Lege(Neu.left(4));
-    Welt.DateiAnlegen(QStringLiteral("zustand/r.2.rescue"), Kopiebytes(Neu));
+    Lege(NeuerStand.left(4));
+    Welt.DateiAnlegen(QStringLiteral("zustand/r.2.rescue"), Kopiebytes(NeuerStand));
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Die Datei\n"), Erster);
     RettungenAnbieten();
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Rettungsdateien(), QStringList());
 }
 
 void TestRettung::VorDemOeffnenWirdNurFuerDieseDateiGefragt() {
-    Lege(Alt);
-    Welt.DateiAnlegen(QStringLiteral("anderes.txt"), Alt);
-    Welt.DateiAnlegen(QStringLiteral("zustand/r.2.rescue"), Kopiebytes(Neu, QStringLiteral("anderes.txt")));
+    Lege(AlterStand);
+    Welt.DateiAnlegen(QStringLiteral("anderes.txt"), AlterStand);
+    Welt.DateiAnlegen(QStringLiteral("zustand/r.2.rescue"),
+                      Kopiebytes(NeuerStand, QStringLiteral("anderes.txt")));
     const QString Verweis = Welt.Pfad(QStringLiteral("verweis.txt"));
     QVERIFY(QFile::link(Ziel(), Verweis));
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Erster);
     RettungAnbietenFuer(Verweis);
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Rettungsdateien(), QStringList(QStringLiteral("r.2.rescue")));
 }
 
 void TestRettung::KopienEinesLaufendenProgrammsBleibenUnberuehrt() {
-    Lege(Neu);
+    Lege(NeuerStand);
     QFile Gesperrte(Welt.Pfad(QStringLiteral("zustand/r.1.rescue")));
     QVERIFY(Gesperrte.open(QIODevice::ReadOnly));
     QCOMPARE(::flock(Gesperrte.handle(), LOCK_EX | LOCK_NB), 0);
@@ -318,11 +309,11 @@ void TestRettung::KopienEinesLaufendenProgrammsBleibenUnberuehrt() {
 }
 
 void TestRettung::EinSymbolischerVerweisAlsKopieWirdNichtBefolgt() {
-    const QString Fremde = Welt.DateiAnlegen(QStringLiteral("fremd"), Kopiebytes(Neu));
-    Welt.DateiAnlegen(QStringLiteral("buch.txt"), Alt);
+    const QString Fremde = Welt.DateiAnlegen(QStringLiteral("fremd"), Kopiebytes(NeuerStand));
+    Welt.DateiAnlegen(QStringLiteral("buch.txt"), AlterStand);
     QVERIFY(QFile::link(Fremde, Welt.Pfad(QStringLiteral("zustand/r.1.rescue"))));
     RettungenAnbieten();
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Alt);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), AlterStand);
 }
 
 void TestRettung::PfadUndZeitenStehenInDerFrage() {
@@ -344,7 +335,7 @@ void TestRettung::OhneZustandsordnerWirdNichtsGefragt() {
 }
 
 void TestRettung::EinGescheitertesUebernehmenBehaeltDieKopie() {
-    Lege(Alt);
+    Lege(AlterStand);
     const auto Funde = RettungenSuchen();
     QCOMPARE(Funde.size(), size_t(1));
     Welt.DateiAnlegen(QStringLiteral("buch.txt"), "inzwischen anderswo");

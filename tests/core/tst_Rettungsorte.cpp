@@ -1,6 +1,8 @@
 #include "common/Testprogramm.h"
 #include "common/Testwelt.h"
 
+#include "Rettungsprobe.h"
+
 #include "core/Dateischutz.h"
 #include "core/Orte.h"
 #include "core/Rettung.h"
@@ -21,13 +23,6 @@
 // A state folder that gives no room for a rescue copy, and the second choice below $XDG_RUNTIME_DIR.
 
 namespace {
-
-const QByteArray Alt = QByteArrayLiteral("alter Stand");
-const QByteArray Neu = QByteArrayLiteral("neuer Stand, laenger als der alte");
-
-constexpr int Erster = 0;
-constexpr int Zweiter = 1;
-constexpr int Spaeter = 2;
 
 const QString Volltext = QStringLiteral("in einem flüchtigen Ordner");
 
@@ -137,8 +132,9 @@ class TestRettungsorte : public QObject {
         return QDir(Ordner).entryList(QDir::Files, QDir::Name);
     }
     QByteArray Kopiebytes(const QByteArray& Inhalt) const;
-    void Lege(const QByteArray& Zielinhalt, const QString& Kopie, const QByteArray& Kopieinhalt = Neu) const;
-    void Speichern() { QVERIFY(!DateiSchreiben(Ziel(), Neu).has_value()); }
+    void Lege(const QByteArray& Zielinhalt, const QString& Kopie,
+              const QByteArray& Kopieinhalt = NeuerStand) const;
+    void Speichern() { QVERIFY(!DateiSchreiben(Ziel(), NeuerStand).has_value()); }
 
     Testwelt Welt;
 };
@@ -149,14 +145,14 @@ void TestRettungsorte::init() {
     QDir().mkdir(Laufzeit(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(Laufzeit()));
     Weigerung::Laufzeit = QFile::encodeName(ZweiterOrdner());
-    Welt.DateiAnlegen(QStringLiteral("buch.txt"), Alt);
+    Welt.DateiAnlegen(QStringLiteral("buch.txt"), AlterStand);
 }
 
 QByteArray TestRettungsorte::Kopiebytes(const QByteArray& Inhalt) const {
     Rettungskopf Kopf;
     Kopf.Ziel = QFile::encodeName(QFileInfo(Welt.Ordner()).canonicalFilePath() + QStringLiteral("/buch.txt"));
     Kopf.Inhalt = MarkeVon(Inhalt);
-    Kopf.Vorher = MarkeVon(Alt);
+    Kopf.Vorher = MarkeVon(AlterStand);
     Kopf.Zeit = QDateTime(QDate(2003, 10, 12), QTime(10, 15));
     return RettungskopfBytes(Kopf) + Inhalt;
 }
@@ -225,7 +221,7 @@ void TestRettungsorte::OhnePlatzLiegtDieKopieImZweitenOrdner() {
     QFETCH(int, Nummer);
     const Weigernd System(Rettungsordner(), Nummer);
     Speichern();
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Weigerung::Gesehen, QByteArray("r.1.rescue"));
     QCOMPARE(Dateien(ZweiterOrdner()), QStringList());
     QCOMPARE(Dateien(Zustandsverzeichnis()), QStringList());
@@ -234,35 +230,35 @@ void TestRettungsorte::OhnePlatzLiegtDieKopieImZweitenOrdner() {
 /// A disc that fails says nothing about what else can be trusted.
 void TestRettungsorte::EinEinAusgabefehlerIstKeinGrundAuszuweichen() {
     const Weigernd System(Rettungsordner(), EIO);
-    const auto Fehler = DateiSchreiben(Ziel(), Neu);
+    const auto Fehler = DateiSchreiben(Ziel(), NeuerStand);
     QVERIFY(Fehler.has_value());
     QCOMPARE(Fehler->Schritt, QStringLiteral("Rettungskopie"));
     QVERIFY(!Weigerung::Gekuerzt);
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Alt);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), AlterStand);
     QVERIFY(!QFile::exists(ZweiterOrdner()));
 }
 
 void TestRettungsorte::OhneZweitenOrdnerBleibtDasZielUnberuehrt() {
     qunsetenv("XDG_RUNTIME_DIR");
     const Weigernd System(Rettungsordner(), ENOSPC);
-    const auto Fehler = DateiSchreiben(Ziel(), Neu);
+    const auto Fehler = DateiSchreiben(Ziel(), NeuerStand);
     QVERIFY(Fehler.has_value());
     QCOMPARE(Fehler->Schritt, QStringLiteral("Rettungskopie"));
     QVERIFY(!Weigerung::Gekuerzt);
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Alt);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), AlterStand);
     QCOMPARE(AusweichhinweisAbholen(), QString());
 }
 
 void TestRettungsorte::WeigernSichBeideBleibtDasZielUnberuehrtUndDerErsteWirdGenannt() {
     const Weigernd System(QFile::encodeName(Welt.Ordner()), ENOSPC);
-    const auto Fehler = DateiSchreiben(Ziel(), Neu);
+    const auto Fehler = DateiSchreiben(Ziel(), NeuerStand);
     QVERIFY(Fehler.has_value());
     QCOMPARE(Fehler->Text,
              QStringLiteral("Die Datei \"%1\" wurde nicht gespeichert und ist unverändert.\nGrund: Im Ordner "
                             "\"%2\" konnte keine Rettungskopie angelegt werden (der Datenträger ist voll).")
                  .arg(Ziel(), Zustandsverzeichnis()));
     QVERIFY(!Weigerung::Gekuerzt);
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Alt);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), AlterStand);
     QCOMPARE(Dateien(ZweiterOrdner()) + Dateien(Zustandsverzeichnis()), QStringList());
     QCOMPARE(AusweichhinweisAbholen(), QString());
 }
@@ -272,7 +268,7 @@ void TestRettungsorte::KopieUndOrdnerSindFuerAndereVerschlossen() {
     QFile::setPermissions(ZweiterOrdner(), QFile::Permissions(0x7777));
     const Weigernd System(Rettungsordner(), ENOSPC);
     Weigerung::ZielKaputt = true;
-    const auto Fehler = DateiSchreiben(Ziel(), Neu);
+    const auto Fehler = DateiSchreiben(Ziel(), NeuerStand);
     QVERIFY(Fehler.has_value());
     QCOMPARE(Rechte(ZweiterOrdner()), 0700);
     QCOMPARE(Rechte(Fehler->Rettungskopie), 0600);
@@ -322,44 +318,44 @@ void TestRettungsorte::OhneAusweichenGibtEsKeinenHinweis() {
 void TestRettungsorte::EinAbgebrochenesSpeichernSagtDassDieKopieFluechtigIst() {
     const Weigernd System(Rettungsordner(), ENOSPC);
     Weigerung::ZielKaputt = true;
-    const auto Fehler = DateiSchreiben(Ziel(), Neu);
+    const auto Fehler = DateiSchreiben(Ziel(), NeuerStand);
     QVERIFY(Fehler.has_value());
     QCOMPARE(Fehler->Rettungskopie, ZweiterOrdner() + QStringLiteral("/r.1.rescue"));
     QVERIFY2(Fehler->Text.contains(Volltext), qPrintable(Fehler->Text));
     const auto Kopie = RettungsinhaltLesen(Testwelt::DateiInhalt(Fehler->Rettungskopie));
     QVERIFY(Kopie.has_value());
-    QCOMPARE(Kopie->Inhalt, Neu);
+    QCOMPARE(Kopie->Inhalt, NeuerStand);
 }
 
 void TestRettungsorte::EineKopieImZustandsordnerIstNichtFluechtig() {
     const Weigernd System("/nirgends", ENOSPC);
     Weigerung::ZielKaputt = true;
-    const auto Fehler = DateiSchreiben(Ziel(), Neu);
+    const auto Fehler = DateiSchreiben(Ziel(), NeuerStand);
     QVERIFY(Fehler.has_value());
     QVERIFY2(!Fehler->Text.contains(Volltext), qPrintable(Fehler->Text));
 }
 
 void TestRettungsorte::DerNaechsteStartBietetDieKopieAusDemZweitenOrdnerAn() {
-    Lege(Neu.left(5), QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
+    Lege(NeuerStand.left(5), QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Die Datei\n"), Erster);
     RettungenAnbieten();
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Dateien(ZweiterOrdner()) + Dateien(Zustandsverzeichnis()), QStringList());
 }
 
 /// The answer may come after the computer was switched off.
 void TestRettungsorte::WerSpaeterEntscheidetFindetSieImZustandsordner() {
-    Lege(Alt, QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
+    Lege(AlterStand, QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Spaeter);
     RettungenAnbieten();
     QVERIFY(!Welt.Boxen.Gezeigt.last().Text.contains(Volltext));
     QCOMPARE(Dateien(ZweiterOrdner()), QStringList());
     QCOMPARE(Dateien(Zustandsverzeichnis()), QStringList(QStringLiteral("r.2.rescue")));
-    QCOMPARE(Testwelt::DateiInhalt(Welt.Pfad(QStringLiteral("zustand/r.2.rescue"))), Kopiebytes(Neu));
+    QCOMPARE(Testwelt::DateiInhalt(Welt.Pfad(QStringLiteral("zustand/r.2.rescue"))), Kopiebytes(NeuerStand));
 }
 
 void TestRettungsorte::OhnePlatzBleibtSieUndDieFrageWarnt() {
-    Lege(Alt, QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
+    Lege(AlterStand, QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
     const Weigernd System(Rettungsordner(), ENOSPC);
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Spaeter);
     RettungenAnbieten();
@@ -367,12 +363,12 @@ void TestRettungsorte::OhnePlatzBleibtSieUndDieFrageWarnt() {
     QCOMPARE(Dateien(ZweiterOrdner()), QStringList(QStringLiteral("r.1.rescue")));
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Erster);
     RettungenAnbieten();
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Dateien(ZweiterOrdner()), QStringList());
 }
 
 void TestRettungsorte::BeiseiteGelegtBleibtSieNurBisZumAbmelden() {
-    Lege(Alt, QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
+    Lege(AlterStand, QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
     const Weigernd System(Rettungsordner(), ENOSPC);
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Zweiter);
     Welt.Boxen.ErwarteMeldung(QStringLiteral("Die Rettungskopie bleibt erhalten als\n\"") + ZweiterOrdner());
@@ -382,13 +378,13 @@ void TestRettungsorte::BeiseiteGelegtBleibtSieNurBisZumAbmelden() {
 }
 
 void TestRettungsorte::EineGleicheKopieGehtOhneFrage() {
-    Lege(Neu, QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
+    Lege(NeuerStand, QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
     RettungenAnbieten();
     QCOMPARE(Dateien(ZweiterOrdner()) + Dateien(Zustandsverzeichnis()), QStringList());
 }
 
 void TestRettungsorte::BeimSpeichernGehtEineErledigteAuchDort() {
-    Lege(Alt, QStringLiteral("laufzeit/tafelquell/r.1.rescue"), Alt);
+    Lege(AlterStand, QStringLiteral("laufzeit/tafelquell/r.1.rescue"), AlterStand);
     Speichern();
     QCOMPARE(Dateien(ZweiterOrdner()), QStringList());
 }
@@ -406,19 +402,19 @@ void TestRettungsorte::VonBeidenOrdnernKommtDieNeuesteZuerst() {
 }
 
 void TestRettungsorte::EinUnlesbarerOrdnerVerschweigtDenAnderenNicht() {
-    Lege(Neu.left(5), QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
+    Lege(NeuerStand.left(5), QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
     ZustandsverzeichnisSetzen(Ziel() + QStringLiteral("/zustand")); // below a file
     Welt.Boxen.ErwarteMeldung(QStringLiteral("Im Ordner \"%1/zustand\"").arg(Ziel()));
     Welt.Boxen.ErwarteAuswahl(QStringLiteral("Die Datei\n"), Erster);
     RettungenAnbieten();
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Neu);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
 }
 
 void TestRettungsorte::UngespeichertesWirdAuchDortGerettet() {
     const Weigernd System(Rettungsordner(), ENOSPC);
-    QCOMPARE(UngespeichertesRetten(Ziel(), Neu), 0);
+    QCOMPARE(UngespeichertesRetten(Ziel(), NeuerStand), 0);
     QCOMPARE(Dateien(ZweiterOrdner()), QStringList(QStringLiteral("r.1.rescue")));
-    QCOMPARE(Testwelt::DateiInhalt(Ziel()), Alt);
+    QCOMPARE(Testwelt::DateiInhalt(Ziel()), AlterStand);
     QVERIFY(!AusweichhinweisAbholen().isEmpty());
 }
 

@@ -2,6 +2,7 @@
 #include "common/Testwelt.h"
 
 #include "Buchdatei.h"
+#include "Rettungsprobe.h"
 
 #include "core/AutoDatei.h"
 #include "core/Datenbankdatei.h"
@@ -18,17 +19,10 @@
 
 namespace {
 
-constexpr int Erster = 0;
-constexpr int Spaeter = 2;
-
 const QByteArray Parameterinhalt = QByteArrayLiteral("[Parameter f\xFCr Tafelquell 3.0]\r\n");
 
 QByteArray Neuer() {
     return Ersetzt(Kleinbuch(), QStringLiteral("Anna Bauer"), QStringLiteral("Berta Bauer"));
-}
-
-QStringList Kopien() {
-    return QDir(Zustandsverzeichnis()).entryList(QDir::Files, QDir::Name);
 }
 
 } // namespace
@@ -44,14 +38,15 @@ class TestNeuererStand : public QObject {
         return QFileInfo(Welt.Ordner()).canonicalFilePath() + QStringLiteral("/buch.txt");
     }
 
-    void Lege(const QByteArray& Alt, const QByteArray& Neu, int Nummer = 1) const {
-        Welt.DateiAnlegen(QStringLiteral("buch.txt"), Alt);
+    void Lege(const QByteArray& Vorher, const QByteArray& Nachher, int Nummer = 1) const {
+        Welt.DateiAnlegen(QStringLiteral("buch.txt"), Vorher);
         Rettungskopf Kopf;
         Kopf.Ziel = QFile::encodeName(Ziel());
-        Kopf.Inhalt = MarkeVon(Neu);
-        Kopf.Vorher = MarkeVon(Alt);
+        Kopf.Inhalt = MarkeVon(Nachher);
+        Kopf.Vorher = MarkeVon(Vorher);
         Kopf.Zeit = QDateTime(QDate(2003, 10, 12), QTime(10, 15));
-        Welt.DateiAnlegen(QStringLiteral("zustand/r.%1.rescue").arg(Nummer), RettungskopfBytes(Kopf) + Neu);
+        Welt.DateiAnlegen(QStringLiteral("zustand/r.%1.rescue").arg(Nummer),
+                          RettungskopfBytes(Kopf) + Nachher);
     }
 
     void Annehmen() {
@@ -78,7 +73,7 @@ class TestNeuererStand : public QObject {
         QCOMPARE(DatenGeaendert, true);
         QCOMPARE(AutoDatei(), Ziel());
         QCOMPARE(Testwelt::DateiInhalt(Ziel()), Kleinbuch());
-        QCOMPARE(Kopien(), QStringList(QStringLiteral("r.1.rescue")));
+        QCOMPARE(Rettungsdateien(), QStringList(QStringLiteral("r.1.rescue")));
     }
 
     void GespeichertStehtErInDerDateiUndDieKopieGeht() {
@@ -86,14 +81,14 @@ class TestNeuererStand : public QObject {
         SpeichernDatenbank3(Ziel());
         QCOMPARE(DatenGeaendert, false);
         QCOMPARE(Testwelt::DateiInhalt(Ziel()), Neuer());
-        QCOMPARE(Kopien(), QStringList());
+        QCOMPARE(Rettungsdateien(), QStringList());
     }
 
     void WerWeiterArbeitetUndSpeichertWirdNichtMehrGefragt() {
         Oeffnen();
         Datenbank.Schueler[0].Name = QStringLiteral("Clara Bauer");
         SpeichernDatenbank3(Ziel());
-        QCOMPARE(Kopien(), QStringList(QStringLiteral("r.1.beiseite")));
+        QCOMPARE(Rettungsdateien(), QStringList(QStringLiteral("r.1.beiseite")));
         RettungenAnbieten();
     }
 
@@ -112,14 +107,14 @@ class TestNeuererStand : public QObject {
         QCOMPARE(Datenbank.Schueler[0].Name, QStringLiteral("Anna Bauer"));
         Datenbank.Schueler[0].Name = QStringLiteral("Clara Bauer");
         SpeichernDatenbank3(Ziel());
-        QCOMPARE(Kopien(), QStringList(QStringLiteral("r.1.rescue")));
+        QCOMPARE(Rettungsdateien(), QStringList(QStringLiteral("r.1.rescue")));
     }
 
     void UnterAnderemNamenGespeichertBleibtDieKopieAngeboten() {
         Oeffnen();
         SpeichernDatenbank3(Welt.Pfad(QStringLiteral("anderes.txt")));
         QCOMPARE(Testwelt::DateiInhalt(Ziel()), Kleinbuch());
-        QCOMPARE(Kopien(), QStringList(QStringLiteral("r.1.rescue")));
+        QCOMPARE(Rettungsdateien(), QStringList(QStringLiteral("r.1.rescue")));
     }
 
     void AuchBeimOeffnenWaehrendDerArbeit() {
@@ -156,14 +151,14 @@ class TestNeuererStand : public QObject {
         Annehmen();
         QVERIFY(LadeDatenbank(Ziel()));
         QCOMPARE(Datenbank.Schueler[0].Name, QStringLiteral("Berta Bauer"));
-        QCOMPARE(Kopien().size(), 2);
+        QCOMPARE(Rettungsdateien().size(), 2);
     }
 
     void DieParameterdateiWirdGeschrieben() {
         Lege("alt", Parameterinhalt);
         Annehmen();
         QCOMPARE(Testwelt::DateiInhalt(Ziel()), Parameterinhalt);
-        QCOMPARE(Kopien(), QStringList());
+        QCOMPARE(Rettungsdateien(), QStringList());
     }
 
     void DieFrageSagtDassErstDasSpeichernSchreibt() {
