@@ -35,8 +35,9 @@ const QString Spaeter = QStringLiteral("Später entscheiden");
 Angebot AngebotVorher(const QString& Datei, const QString& Dateizeit, const QString& Kopiezeit,
                       bool Dokument) {
     return {QStringLiteral(
-                "Das Speichern der Datei\n\"%1\"\nwurde unterbrochen (%3). Die Datei hat noch den alten "
-                "Stand vom %2.\nDer neuere Stand ist in einer Rettungskopie erhalten.\n\n"
+                "Der letzte Stand der Datei\n\"%1\"\nwurde nicht mehr gespeichert (%3): Das Speichern wurde "
+                "unterbrochen, oder das Programm endete vorher. Die Datei hat noch den alten Stand vom %2.\n"
+                "Der neuere Stand ist in einer Rettungskopie erhalten.\n\n"
                 "Soll der neuere Stand übernommen werden?")
                     .arg(Datei, Dateizeit, Kopiezeit) +
                 (Dokument ? QStringLiteral(" In der Datei steht er erst, wenn Sie speichern.") : QString()),

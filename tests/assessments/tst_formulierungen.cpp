@@ -318,7 +318,7 @@ class FormulierungenTest : public QObject {
                                    1};
         Zustandsverzeichnis();
         Welt.DateiAnlegen(QStringLiteral("zustand/r.1.rescue"), RettungskopfBytes(Rettung) + Neu);
-        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), 0);
+        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), 0);
         RettungenAnbieten();
         FormulierungenBeimStartLaden();
         QCOMPARE(Setting(), Pfad);

@@ -111,7 +111,7 @@ void TestRettung::GleicheKopienGehenOhneFrage() {
 
 void TestRettung::DerNeuereStandWirdAufWunschUebernommen() {
     Lege(AlterStand);
-    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Erster);
+    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Erster);
     RettungenAnbieten();
     QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Rettungsdateien(), QStringList());
@@ -119,7 +119,7 @@ void TestRettung::DerNeuereStandWirdAufWunschUebernommen() {
 
 void TestRettung::DerAlteStandBleibtUndDieKopieWirdNichtMehrAngeboten() {
     Lege(AlterStand);
-    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Zweiter);
+    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Zweiter);
     Welt.Boxen.ErwarteMeldung(QStringLiteral("Die Rettungskopie bleibt erhalten als\n"));
     RettungenAnbieten();
     QCOMPARE(Testwelt::DateiInhalt(Ziel()), AlterStand);
@@ -260,7 +260,7 @@ void TestRettung::EineDefekteKopieWirdBeiseitegelegtUndVermerkt() {
 void TestRettung::EineFertigeAberNichtUmbenannteKopieWirdAngeboten() {
     Welt.DateiAnlegen(QStringLiteral("buch.txt"), AlterStand);
     Welt.DateiAnlegen(QStringLiteral("zustand/r.1.tmp"), Kopiebytes(NeuerStand));
-    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Erster);
+    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Erster);
     RettungenAnbieten();
     QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Rettungsdateien(), QStringList());
@@ -293,7 +293,7 @@ void TestRettung::VorDemOeffnenWirdNurFuerDieseDateiGefragt() {
                       Kopiebytes(NeuerStand, QStringLiteral("anderes.txt")));
     const QString Verweis = Welt.Pfad(QStringLiteral("verweis.txt"));
     QVERIFY(QFile::link(Ziel(), Verweis));
-    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Erster);
+    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Erster);
     RettungAnbietenFuer(Verweis);
     QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Rettungsdateien(), QStringList(QStringLiteral("r.2.rescue")));

@@ -346,7 +346,7 @@ void TestRettungsorte::DerNaechsteStartBietetDieKopieAusDemZweitenOrdnerAn() {
 /// The answer may come after the computer was switched off.
 void TestRettungsorte::WerSpaeterEntscheidetFindetSieImZustandsordner() {
     Lege(AlterStand, QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
-    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Spaeter);
+    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Spaeter);
     RettungenAnbieten();
     QVERIFY(!Welt.Boxen.Gezeigt.last().Text.contains(Volltext));
     QCOMPARE(Dateien(ZweiterOrdner()), QStringList());
@@ -357,11 +357,11 @@ void TestRettungsorte::WerSpaeterEntscheidetFindetSieImZustandsordner() {
 void TestRettungsorte::OhnePlatzBleibtSieUndDieFrageWarnt() {
     Lege(AlterStand, QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
     const Weigernd System(Rettungsordner(), ENOSPC);
-    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Spaeter);
+    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Spaeter);
     RettungenAnbieten();
     QVERIFY(Welt.Boxen.Gezeigt.last().Text.contains(Volltext));
     QCOMPARE(Dateien(ZweiterOrdner()), QStringList(QStringLiteral("r.1.rescue")));
-    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Erster);
+    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Erster);
     RettungenAnbieten();
     QCOMPARE(Testwelt::DateiInhalt(Ziel()), NeuerStand);
     QCOMPARE(Dateien(ZweiterOrdner()), QStringList());
@@ -370,7 +370,7 @@ void TestRettungsorte::OhnePlatzBleibtSieUndDieFrageWarnt() {
 void TestRettungsorte::BeiseiteGelegtBleibtSieNurBisZumAbmelden() {
     Lege(AlterStand, QStringLiteral("laufzeit/tafelquell/r.1.rescue"));
     const Weigernd System(Rettungsordner(), ENOSPC);
-    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Zweiter);
+    Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Zweiter);
     Welt.Boxen.ErwarteMeldung(QStringLiteral("Die Rettungskopie bleibt erhalten als\n\"") + ZweiterOrdner());
     RettungenAnbieten();
     QVERIFY(Welt.Boxen.Gezeigt.last().Text.contains(Volltext));

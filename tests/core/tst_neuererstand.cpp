@@ -50,7 +50,7 @@ class TestNeuererStand : public QObject {
     }
 
     void Annehmen() {
-        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Erster);
+        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Erster);
         RettungenAnbieten();
     }
 
@@ -94,7 +94,7 @@ class TestNeuererStand : public QObject {
 
     void WerNichtSpeichertWirdWiederGefragt() {
         Oeffnen();
-        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Spaeter);
+        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Spaeter);
         RettungAnbietenFuer(Ziel());
         QVERIFY(LadeDatenbank(Ziel()));
         QCOMPARE(Datenbank.Schueler[0].Name, QStringLiteral("Anna Bauer"));
@@ -119,7 +119,7 @@ class TestNeuererStand : public QObject {
 
     void AuchBeimOeffnenWaehrendDerArbeit() {
         Lege(Kleinbuch(), Neuer());
-        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Erster);
+        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Erster);
         RettungAnbietenFuer(Ziel());
         QCOMPARE(AutoDatei(), Unbenannt);
         QVERIFY(LadeDatenbank(Ziel()));
@@ -165,7 +165,7 @@ class TestNeuererStand : public QObject {
         const QString Zusatz = QStringLiteral(" In der Datei steht er erst, wenn Sie speichern.");
         for (const QByteArray& Inhalt : {Neuer(), Parameterinhalt}) {
             Lege(Kleinbuch(), Inhalt);
-            Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), Spaeter);
+            Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), Spaeter);
             RettungenAnbieten();
             QCOMPARE(Welt.Boxen.Gezeigt.last().Text.endsWith(Zusatz), Inhalt == Neuer());
         }

@@ -150,7 +150,7 @@ class TestEnde : public QObject {
         QCOMPARE(Testwelt::DateiInhalt(Pfad), Alt);
         Fenster.Schliessen();
 
-        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Das Speichern der Datei"), 0);
+        Welt.Boxen.ErwarteAuswahl(QStringLiteral("Der letzte Stand der Datei"), 0);
         Fenster.Starten();
         QCOMPARE(Datenbank.AnzKlassen, qint16(2));
         QCOMPARE(Datenbank.Klassen[1].Name, QStringLiteral("8b"));
