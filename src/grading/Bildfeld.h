@@ -15,8 +15,8 @@ class Bildfeld : public QWidget {
   public:
     explicit Bildfeld(QWidget* Eltern = nullptr);
 
-    /// Shows this drawing from the next repaint on, until another is set. It runs again at each repaint, so
-    /// it holds its values itself.
+    /// Shows this drawing from the next repaint on, until another is set. It runs again at each change of
+    /// size or font, so it holds its values itself.
     void Zeichnen(std::function<void(Zeichenflaeche&)> NeueZeichnung);
 
     /// What it shows now.
@@ -26,8 +26,12 @@ class Bildfeld : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* Ereignis) override;
+    void changeEvent(QEvent* Ereignis) override;
 
   private:
+    void ZeichnungAusfuehren();
+
     std::function<void(Zeichenflaeche&)> Zeichnung;
-    QPixmap Gezeigtes; ///< while there is no drawing
+    QPixmap Gezeichnetes; ///< what the drawing gave; null or of another size: it has to run
+    QPixmap Gezeigtes;    ///< while there is no drawing
 };

@@ -3,6 +3,7 @@
 #include "common/Zeichenprotokoll.h"
 
 #include "Massstab.h"
+#include "grading/Bildfeld.h"
 #include "grading/Diagramme.h"
 #include "grading/Malflaeche.h"
 
@@ -159,6 +160,33 @@ class TestDiagramme : public QObject {
         QCOMPARE(Ganz.Nur(u"Linie"_s).first(), u"Linie 450 2125 +4200 +0 000000"_s);
         QCOMPARE(Viertel.Nur(u"Linie"_s).first(), u"Linie 5450 4625 +4200 +0 000000"_s);
         QCOMPARE(Texte(Viertel.Zeilen), Texte(Ganz.Zeilen));
+    }
+
+    void EinBildfeldZeichnetNeuWennZeichnungGroesseOderSchriftSichAendern() {
+        int Gezeichnet = 0;
+        const auto Zeichnung = [&Gezeichnet](Zeichenflaeche& Flaeche) {
+            ++Gezeichnet;
+            Flaeche.Kasten(0, 0, 150, 150, 0xFF0000FF);
+        };
+        Bildfeld Feld;
+        Feld.resize(40, 30);
+        Feld.Zeichnen(Zeichnung);
+        const QImage Erstes = Feld.Bild().toImage();
+        QCOMPARE(Erstes.pixelColor(5, 5), QColor(Qt::blue));
+        QCOMPARE(Erstes.pixelColor(20, 20), QColor(Qt::white));
+        QCOMPARE(Feld.Bild().toImage(), Erstes);
+        QCOMPARE(Gezeichnet, 1);
+        Feld.resize(60, 30);
+        QCOMPARE(Feld.Bild().toImage().pixelColor(50, 20), QColor(Qt::white));
+        QCOMPARE(Gezeichnet, 2);
+        QFont Groesser = Feld.font();
+        Groesser.setPointSize(Groesser.pointSize() + 4);
+        Feld.setFont(Groesser);
+        Feld.Bild();
+        QCOMPARE(Gezeichnet, 3);
+        Feld.Zeichnen(Zeichnung);
+        Feld.Bild();
+        QCOMPARE(Gezeichnet, 4);
     }
 
     void NurEinBildfeldWirdGeleertUndVerborgen_data() {
