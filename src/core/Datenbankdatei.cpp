@@ -100,7 +100,8 @@ bool EinlesenUndMelden(const QString& Pfad) {
     LadebefundMerken(Pfad, !Inhalt.Ganz, Ergebnis.Entfallen + (Abgebrochen ? 1 : 0));
     Uebernehmen(Pfad, Ergebnis);
     const bool Gelesen = Ergebnis.Ende == Leseergebnis::Ausgang::Gelesen;
-    DatenGeaendert = Gelesen && Inhalt.Ungespeichert;
+    if (Gelesen && Inhalt.Ungespeichert)
+        DatenGeaendert = true;
     return Gelesen;
 }
 

@@ -11,9 +11,9 @@
 
 /// Offers every rescue copy in a box of its own, the newest first. A newer content of a file that still has
 /// its old one is opened as a document that was not saved (core/NeuererStand.h), a broken-off file is written
-/// from its copy. Copies whose target equals them go without
-/// a word; broken ones are put aside and noted in the log. Call at start, before any file is loaded. Without
-/// an answer nothing is lost: the copy stays and is offered the next time.
+/// from its copy. Copies whose target equals them go without a word; broken ones are put aside and noted in
+/// the log. Call at start, before any file is loaded. Without an answer nothing is lost: the copy stays and
+/// is offered the next time.
 void RettungenAnbieten();
 
 /// The same for the copies of one file. Call before it is opened.
